@@ -1,0 +1,29 @@
+# One static library a folder, one test program a room. Warnings and sanitizers come from the presets.
+option(SORVANE_TESTS "Build the tests" ON)
+option(SORVANE_BENCH "Build the benchmarks" OFF)
+option(SORVANE_FUZZ "Build the fuzz targets (needs clang)" OFF)
+
+# sorvane_library(name SOURCES file... [LINKS lib...]): product code, without exceptions and RTTI.
+function(sorvane_library name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  add_library(${name} STATIC ${ARG_SOURCES})
+  target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
+  target_compile_options(${name} PRIVATE -fno-exceptions -fno-rtti)
+  target_link_libraries(${name} PUBLIC ${ARG_LINKS})
+endfunction()
+
+# sorvane_test(name SOURCES file... [LINKS lib...]): one GoogleTest program. Natively each test is a test of
+# its own for CTest; on Windows (run through the emulator of the toolchain) each program is one.
+function(sorvane_test name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}")
+  target_link_libraries(${name} PRIVATE ${ARG_LINKS} GTest::gtest GTest::gtest_main)
+  if(WIN32)
+    target_link_options(${name} PRIVATE -static)
+    add_test(NAME windows.${name} COMMAND ${name})
+    set_tests_properties(windows.${name} PROPERTIES LABELS windows)
+  else()
+    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST PROPERTIES LABELS native)
+  endif()
+endfunction()

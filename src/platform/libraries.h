@@ -1,0 +1,28 @@
+// The closed libraries of the installation, loaded by name when first needed and kept.
+//
+// `path` is always a full path: nothing is searched for anywhere else. A missing library or
+// function is a silent failure.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+class Libraries {
+ public:
+  virtual ~Libraries() = default;
+
+  // The string with this number from the library's string table; "" without the library or the
+  // string.
+  virtual std::string ReadString(std::string_view path, std::uint32_t id) = 0;
+
+  // Calls an exported function that takes one 4-byte number and gives one. Nothing without the
+  // library or function.
+  virtual std::optional<std::int32_t> Call(std::string_view path, std::string_view function,
+                                           std::int32_t argument) = 0;
+};
+
+}  // namespace platform

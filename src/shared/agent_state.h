@@ -1,0 +1,80 @@
+// The one record of the agent's memory. Everything else is read from the files at each use.
+//
+// Passed by reference; there are no other mutable globals. What a long handler must keep while it
+// pumps messages lives here, so that a nested tick sees it. Each field names its width where the
+// width is part of the behaviour.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "platform/shell.h"
+
+namespace shared {
+
+// File names of the programs of the installation; fixed once at start-up from the product table.
+struct ExecutableNames {
+  std::string realtime_module;  // continuous-backup module
+  std::string registry_converter;
+  std::string background;    // background scheduler process
+  std::string tray;          // this program
+  std::string main_program;  // interactive main program
+  std::string service;
+  std::string set_size_helper;     // backup-set size helper
+  std::string context_menu;        // context-menu helper
+  std::string view_module;         // explorer view module; empty in the partner edition
+  std::string explorer_extension;  // empty in the partner edition
+  std::string drive_launcher;      // empty in the partner edition
+  std::string web_plugin;          // web-management plug-in
+  std::string service_batch_base;  // base word of the service's batch files
+};
+
+struct AgentState {
+  // Identity of the product.
+  std::int16_t ProductNumber = 0;  // 1 partner edition, 2 this product
+  std::string ProductName;         // word in captions
+  std::string ProductFolder;       // folder below InstallFolder
+  std::string ProductTreeViewName;
+  std::string ProductCaption;  // long title; window-title searches use it
+  std::string ExeGroup;        // stem of all executable names
+  std::string Language;
+  std::string DisplayName;    // word in messages
+  std::string BrandIconFile;  // partner's icon below images; empty for this product
+  std::string MutexName;
+  std::string ClientProgram;  // engine client, in InstallFolder
+  ExecutableNames executables;
+  bool LargeFonts = false;
+
+  // Places and the user.
+  std::string InstallFolder;  // without a final backslash
+  std::string CurrentUser;    // empty when nobody is logged in
+  std::string ScheduleFilePath;
+
+  // Server pair in use and the deployment's defaults.
+  std::string ServerAddress;
+  std::string ServerPort;
+  std::string PrimaryServerAddress;
+  std::string SecondaryServerAddress;
+  std::string DefaultPort;
+  std::string DomainName;
+
+  // The tick.
+  std::int16_t JobState = 0;  // job code of this tick
+  bool BlinkPhase = false;    // false: the next running tick shows the yellow picture
+  bool CdpBlinkPhase = false;
+  bool QuotaBlinkPhase = false;
+  bool CdpRunning = false;
+  bool CdpIdle = false;
+  bool KeepAwakeOn = false;
+  bool ForceStatusRefresh = false;
+  double last_return_value = 0;  // the engine's result as ReadJobStatus saw it last
+
+  // Supervision.
+  std::int16_t ServiceStartTries = 0;
+  std::int16_t ServiceWaitTicks = 0;
+
+  // The product's own question box.
+  bool MessageAnswer = false;
+};
+
+}  // namespace shared
