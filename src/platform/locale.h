@@ -26,6 +26,10 @@ class Locale {
   // default character.
   virtual std::u16string ToWide(std::string_view text) = 0;
   virtual std::string FromWide(std::u16string_view text) = 0;
+
+  // The system's own sentence for an error number, without line breaks at its end; "" for a number
+  // without one.
+  virtual std::string SystemErrorText(std::uint32_t error) = 0;
 };
 
 }  // namespace platform
