@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <string>
 
-#include "platform/shell.h"
+#include "platform/processes.h"
 
 namespace shared {
 
@@ -72,6 +72,8 @@ struct AgentState {
   // Supervision.
   std::int16_t ServiceStartTries = 0;
   std::int16_t ServiceWaitTicks = 0;
+  bool StartHelperLaunched = false;             // the elevated start was asked for once
+  platform::ProcessId BackgroundProcessId = 0;  // as the last look found it
 
   // The product's own question box.
   bool MessageAnswer = false;

@@ -27,6 +27,10 @@ class Trace {
   // carries its own prefix (kInformation, kError or one of the few others).
   void WriteStamped(std::string_view text);
 
+  // WriteStamped with kInformation or kError in front of the message.
+  void WriteInformation(std::string_view message) { WriteStamped(Prefixed(kInformation, message)); }
+  void WriteError(std::string_view message) { WriteStamped(Prefixed(kError, message)); }
+
   // Reads the user afresh into CurrentUser, then appends the text to SerTraceFile.txt of
   // UserFolder.
   void WriteSerTrace(std::string_view text);
@@ -39,6 +43,10 @@ class Trace {
   void WriteGeneralMessage(std::string_view text);
 
  private:
+  static std::string Prefixed(std::string_view prefix, std::string_view message) {
+    return std::string(prefix).append(message);
+  }
+
   platform::Platform& machine_;
   AgentState& state_;
 };
