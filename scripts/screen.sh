@@ -1,0 +1,48 @@
+# A virtual screen and a private Windows environment under build/, both ended by stop_screen.
+
+screen_pid=""
+
+# start_screen WIDTHxHEIGHT: sets DISPLAY to a free one of its own.
+start_screen() {
+  local size="$1" display_file
+  display_file="$(mktemp)"
+  Xvfb -displayfd 3 -screen 0 "${size}x24" -nolisten tcp -noreset 3>"$display_file" >build/logs/screen.log 2>&1 &
+  screen_pid=$!
+  local tries=0
+  until [ -s "$display_file" ]; do
+    kill -0 "$screen_pid" 2>/dev/null || fail "starting the virtual screen" "read build/logs/screen.log"
+    [ $((tries += 1)) -lt 100 ] || fail "the virtual screen gives no sign" "read build/logs/screen.log"
+    sleep 0.1
+  done
+  DISPLAY=":$(cat "$display_file")"
+  export DISPLAY
+  rm -f "$display_file"
+}
+
+# use_wine_prefix NAME: a private prefix below build/, made at first use and kept for later runs.
+use_wine_prefix() {
+  export WINEPREFIX="$PWD/build/wine-$1"
+  export WINEDEBUG=-all
+  # No offers to download a script engine or an HTML engine.
+  export WINEDLLOVERRIDES="mscoree=;mshtml="
+  if [ ! -f "$WINEPREFIX/made" ]; then
+    rm -rf "$WINEPREFIX"
+    step "preparing a Windows environment in build/wine-$1" "read build/logs/wineboot.log" \
+      boot_wine_prefix
+    touch "$WINEPREFIX/made"
+  fi
+}
+
+boot_wine_prefix() { wineboot -i >build/logs/wineboot.log 2>&1 && wineserver -w; }
+
+stop_screen() {
+  if [ -n "${WINEPREFIX:-}" ] && [ -d "${WINEPREFIX:-}" ]; then
+    wineserver -k 2>/dev/null || true
+    wineserver -w 2>/dev/null || true
+  fi
+  if [ -n "$screen_pid" ]; then
+    kill "$screen_pid" 2>/dev/null || true
+    wait "$screen_pid" 2>/dev/null || true
+    screen_pid=""
+  fi
+}

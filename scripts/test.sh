@@ -1,0 +1,25 @@
+# ./run test: everything that can be tested, in one run of ctest.
+#
+# Natively with sanitizers; on Windows through Wine with a screen of its own. The 32-bit edition is
+# compiled only. Both build folders are joined under build/test, so that there is one result.
+. scripts/setup.sh
+. scripts/screen.sh
+
+setup build test screen
+configure_and_build native-asan
+configure_and_build windows-x64
+configure_and_build windows-x86
+
+mkdir -p build/test
+printf 'subdirs("%s" "%s")\n' "$PWD/build/native-asan" "$PWD/build/windows-x64" \
+  >build/test/CTestTestfile.cmake
+
+trap stop_screen EXIT
+start_screen 1024x768
+use_wine_prefix test
+# One process keeps the Windows environment alive, so that the tests do not each start it anew.
+wine explorer /desktop=shell,1024x768 >/dev/null 2>&1 &
+
+result=0
+ctest --test-dir build/test --output-on-failure --no-tests=error -j "$(nproc)" "$@" || result=$?
+exit "$result"
