@@ -28,6 +28,9 @@ std::string InCommonFolder(const AgentState& state, std::string_view name);
 // user.
 std::string ProfileIni(const AgentState& state);
 
+// The same file by its path from the current directory, which start-up makes InstallFolder.
+std::string RelativeProfileIni(const AgentState& state);
+
 // <InstallFolder>\UserName.ini, the profile of the machine.
 std::string UserNameIni(const AgentState& state);
 

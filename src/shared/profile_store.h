@@ -63,6 +63,9 @@ class ProfileStore {
   std::string DecryptShareText(std::string_view text);
 
  private:
+  // A stored value decoded, trimmed and cut at NUL; an empty one as it is.
+  std::string DecodeStored(const std::string& stored);
+
   platform::Platform& machine_;
   AgentState& state_;
 };

@@ -15,6 +15,10 @@ namespace shared {
 // monostate: the key is missing. A failed query of a text gives "", of a number 0.
 using RegValue = std::variant<std::monostate, std::string, std::int32_t, std::uint8_t>;
 
+// A text with the NUL that the registry keeps after it, and a 4-byte number.
+platform::RegistryValue TextValue(std::string_view text);
+platform::RegistryValue NumberValue(std::int32_t number);
+
 class RegistryStore {
  public:
   RegistryStore(platform::Platform& machine, AgentState& state);
@@ -49,6 +53,15 @@ class RegistryStore {
   void ResetDialUpAutoConnect();
 
  private:
+  platform::RegistryResult ReadUserValue(std::string_view key, std::string_view name);
+  // Returns 0 or the error of making the key or of writing.
+  std::uint32_t CreateAndWrite(platform::Hive hive, std::string_view key, std::string_view name,
+                               const platform::RegistryValue& value);
+  // Writes one value of an open key of SetKeyValue.
+  void SetValueEx(std::string_view key, std::string_view name,
+                  const platform::RegistryValue& value);
+  void TraceError(std::uint32_t error, std::string_view reason);
+
   platform::Platform& machine_;
   AgentState& state_;
 };

@@ -10,6 +10,7 @@
 
 #include "platform/platform.h"
 #include "shared/agent_state.h"
+#include "shared/profile_store.h"
 
 namespace shared {
 
@@ -62,8 +63,15 @@ class clsTransfer {
   std::string Trf_ReadUserNamePCInfo(std::string_view key);
 
  private:
+  // Shifts key and value on their way to the file.
+  void WriteShifted(const std::string& file, std::string_view section, std::string_view key,
+                    std::string_view value);
+  // The way back; an empty value as it is.
+  std::string Decode(const std::string& stored);
+
   platform::Platform& machine_;
   AgentState& state_;
+  ProfileStore store_;
 };
 
 }  // namespace shared
