@@ -87,7 +87,7 @@ void Supervision::EnsureBackground() {
   shared::Trace trace(machine_, state_);
   const std::string& background = state_.executables.background;
   // 1. Only while the agent's life state lets it.
-  const std::string tray = profile.ReadUserNameIniPlain(shared::kTray);
+  const std::string tray = profile.ReadUserNameIniPlain(shared::keys::kTray);
   if (tray != "0" && !tray.empty()) return;
   // 2. Two walks by two ways: a process that one cannot open, the other may see.
   if (processes.IsBackgroundRunning()) return;
@@ -98,13 +98,13 @@ void Supervision::EnsureBackground() {
     EnsureService();
   }
   // 4. Whose turn it is.
-  const std::string standard = profile.ReadUserNameProfile(shared::kStandard);
-  const std::string started = profile.ReadUserNameProfile(shared::kStarted);
+  const std::string standard = profile.ReadUserNameProfile(shared::keys::kStandard);
+  const std::string started = profile.ReadUserNameProfile(shared::keys::kStarted);
   trace.WriteInformation("strStdrd2 = " + standard);
   trace.WriteInformation("strStarted2 = " + started);
   // 5. Start it.
   if (!BackgroundIsDue(standard, started)) return;
-  profile.WriteUserNameProfile(shared::kStandard, "1");
+  profile.WriteUserNameProfile(shared::keys::kStandard, "1");
   machine_.shell.Open(shared::InInstallFolder(state_, background), "", state_.InstallFolder,
                       platform::WindowShow::kNormal);
   trace.WriteInformation(background + "  is launched");
