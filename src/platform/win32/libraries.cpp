@@ -1,0 +1,42 @@
+#include "platform/win32/libraries.h"
+
+#include <limits>
+
+namespace platform::win32 {
+namespace {
+
+using NumberFunction = std::int32_t(WINAPI*)(std::int32_t);
+
+}  // namespace
+
+HMODULE Libraries::Load(std::string_view path) {
+  if (const auto found = loaded_.find(path); found != loaded_.end()) return found->second.get();
+  std::string name(path);
+  // With these flags a path that is not full is refused, and what the library itself needs comes
+  // from its own folder or the system's.
+  ScopedLibrary library(LoadLibraryExA(
+      name.c_str(), nullptr, LOAD_LIBRARY_SEARCH_DLL_LOAD_DIR | LOAD_LIBRARY_SEARCH_SYSTEM32));
+  if (!library) return nullptr;
+  return loaded_.emplace(std::move(name), std::move(library)).first->second.get();
+}
+
+std::string Libraries::ReadString(std::string_view path, std::uint32_t id) {
+  // String tables have 16-bit numbers; the system would cut a greater one to another string's.
+  if (id > std::numeric_limits<std::uint16_t>::max()) return "";
+  const HMODULE library = Load(path);
+  if (library == nullptr) return "";
+  char text[4096];
+  const int length = LoadStringA(library, id, text, sizeof(text));
+  return {text, length > 0 ? static_cast<std::size_t>(length) : 0};
+}
+
+std::optional<std::int32_t> Libraries::Call(std::string_view path, std::string_view function,
+                                            std::int32_t argument) {
+  const HMODULE library = Load(path);
+  if (library == nullptr) return std::nullopt;
+  const FARPROC address = GetProcAddress(library, std::string(function).c_str());
+  if (address == nullptr) return std::nullopt;
+  return reinterpret_cast<NumberFunction>(reinterpret_cast<void*>(address))(argument);
+}
+
+}  // namespace platform::win32

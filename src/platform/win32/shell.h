@@ -1,0 +1,45 @@
+// The shell of Windows.
+#pragma once
+
+#include <vector>
+
+#include "platform/shell.h"
+#include "platform/win32/notification_icon.h"
+#include "platform/win32/pictures.h"
+#include "platform/win32/scoped.h"
+
+namespace platform::win32 {
+
+// The shell's helpers may want COM on the thread that opens something.
+class ComApartment {
+ public:
+  ComApartment();
+  ComApartment(const ComApartment&) = delete;
+  ComApartment& operator=(const ComApartment&) = delete;
+  ~ComApartment();
+
+ private:
+  bool entered_;
+};
+
+class Shell final : public platform::Shell {
+ public:
+  int Open(std::string_view file, std::string_view arguments, std::string_view folder,
+           WindowShow show) override;
+  StartResult Start(ShellVerb verb, std::string_view file, std::string_view arguments,
+                    std::string_view folder, WindowShow show) override;
+  PictureId LoadPicture(std::string_view path) override;
+  bool AddIcon(std::uintptr_t window, std::uint32_t callback_message, PictureId picture,
+               std::string_view tip) override;
+  bool SetIconPicture(PictureId picture) override;
+  bool SetIconTip(std::string_view tip) override;
+  bool RemoveIcon() override;
+  void ShowStopBox(std::string_view text, std::string_view caption) override;
+
+ private:
+  NotificationIcon icon_;
+  Pictures pictures_;
+  std::vector<ScopedHandle> started_;  // kept open: callers wait on them at any time later
+};
+
+}  // namespace platform::win32
