@@ -49,10 +49,6 @@ std::string_view WithoutLeadingBackslash(std::string_view key) {
   return key;
 }
 
-std::string Describe(std::uint32_t error) {
-  return "the system reported error " + std::to_string(error) + ".";
-}
-
 std::string ValueText(const RegistryValue& value) {
   if (value.type == RegistryType::kNumber) return std::to_string(value.number);
   return std::string(StripNulls(value.bytes));
@@ -93,8 +89,9 @@ std::string RegistryStore::ReadAppValue(std::string_view name) {
   const RegistryResult result = ReadUserValue(RootKey(state_), name);
   for (const std::uint32_t error : kOutOfMemory) {
     if (result.error == error) {
-      machine_.shell.ShowStopBox("Unable to query the registry, reason : " + Describe(error),
-                                 state_.ProductCaption);
+      machine_.shell.ShowStopBox(
+          "Unable to query the registry, reason : " + machine_.locale.SystemErrorText(error),
+          state_.ProductCaption);
     }
   }
   if (!result.key_opened) return {};
@@ -151,7 +148,7 @@ bool RegistryStore::SetRegValue(Hive hive, std::string_view key, std::string_vie
   if (error == platform::kRegistrySuccess) return true;
   std::string line = "Error in registry set value of ";
   line.append(key).append(" ").append(name).append(" ");
-  line.append(ValueText(value)).append(Describe(error));
+  line.append(ValueText(value)).append(machine_.locale.SystemErrorText(error));
   Trace(machine_, state_).WriteTrace(line);
   return false;
 }
@@ -214,7 +211,7 @@ void RegistryStore::TraceError(std::uint32_t error, std::string_view reason) {
       .WriteTrace(std::string("Error No:")
                       .append(std::to_string(error))
                       .append(reason)
-                      .append(Describe(error)));
+                      .append(machine_.locale.SystemErrorText(error)));
 }
 
 }  // namespace shared
