@@ -35,6 +35,9 @@ class Events {
   // Makes every RunUntil return. The pumping of messages ends for good.
   virtual void Quit() = 0;
 
+  // True once Quit was called or the process has ended: whoever loops around Pump leaves its loop.
+  virtual bool HasQuit() = 0;
+
   // Waits up to `milliseconds` for the end of a process without pumping. kFailed at once for a bad
   // handle.
   virtual WaitResult WaitForProcess(ProcessHandle process, std::uint32_t milliseconds) = 0;

@@ -26,6 +26,7 @@ class Events final : public platform::Events {
   void Pump() override;
   void RunUntil(const std::function<bool()>& done) override;
   void Quit() override;
+  bool HasQuit() override { return quit_; }
   WaitResult WaitForProcess(ProcessHandle process, std::uint32_t milliseconds) override;
 
   // The keyboard of forms works through this. One filter; an empty one takes it away.
