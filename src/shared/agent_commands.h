@@ -1,6 +1,7 @@
 // What a window or a lower room may ask of the tray. The tray host implements it.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace shared {
@@ -11,6 +12,13 @@ class AgentCommands {
 
   // Sets the notification icon's tip.
   virtual void SetTrayIcon(std::string_view tip) = 0;
+
+  // The tip for a transfer or for idle, as the shared files have it now; "" when nobody is logged
+  // in.
+  virtual std::string BuildTrayTip() = 0;
+
+  // Greys the menu's status entry, until the menu is opened the next time.
+  virtual void DisableStatusEntry() = 0;
 
   // Closes the main program's window and starts it anew.
   virtual void MnuOptionsClick() = 0;
