@@ -43,4 +43,13 @@ std::string Locale::FromWide(std::u16string_view text) {
   return ansi;
 }
 
+std::string Locale::SystemErrorText(std::uint32_t error) {
+  char text[1024];
+  const DWORD length = FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
+                                      nullptr, error, 0, text, sizeof(text), nullptr);
+  std::string_view sentence(text, length);
+  while (sentence.ends_with('\r') || sentence.ends_with('\n')) sentence.remove_suffix(1);
+  return std::string(sentence);
+}
+
 }  // namespace platform::win32

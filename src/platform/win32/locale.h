@@ -11,6 +11,7 @@ class Locale final : public platform::Locale {
   std::uint32_t AnsiCodePage() override;
   std::u16string ToWide(std::string_view text) override;
   std::string FromWide(std::u16string_view text) override;
+  std::string SystemErrorText(std::uint32_t error) override;
 };
 
 }  // namespace platform::win32
