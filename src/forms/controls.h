@@ -227,10 +227,18 @@ class DatePicker : public Control {
   platform::LocalTime value_;
 };
 
-// A group of controls that are shown and hidden together; it draws nothing itself.
+// A group of controls that are shown and hidden together, on a plain ground of its own when it has
+// a fill. It lies under all other controls.
 class Frame : public Control {
  public:
-  Frame(Form& form, std::string_view name) : Control(form, ControlKind::kFrame, name, {}) {}
+  Frame(Form& form, std::string_view name, std::optional<Colour> fill = {})
+      : Control(form, ControlKind::kFrame, name, {}), fill_(fill) {}
+
+  // Absent: the ground of what it is in.
+  std::optional<Colour> Fill() const { return fill_; }
+
+ private:
+  const std::optional<Colour> fill_;
 };
 
 }  // namespace forms

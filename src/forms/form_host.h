@@ -53,7 +53,7 @@ class FormHost {
   virtual void StartDrag(Form& form) = 0;
 
   // The screen without the task bar.
-  virtual Rect WorkArea() = 0;
+  virtual Rect GetDesktopRectt() = 0;
 
   // Handles as numbers; platform::kNoWindow while there is no window.
   virtual platform::WindowId Window(const Form& form) = 0;
