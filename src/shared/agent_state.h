@@ -9,6 +9,7 @@
 #include <string>
 
 #include "platform/processes.h"
+#include "platform/shell.h"
 
 namespace shared {
 
@@ -57,6 +58,13 @@ struct AgentState {
   std::string SecondaryServerAddress;
   std::string DefaultPort;
   std::string DomainName;
+
+  // The exchange with the engine client.
+  std::string LoginUser;     // user of a login in progress, empty otherwise
+  std::string ClientRandom;  // this client's random digits, held between calls
+  platform::ProcessHandle ClientProcess = platform::kNoProcess;  // the last started client
+  std::string CommandArgument;            // the last argument with a payload in brackets
+  std::int16_t RandomRenewConfirmed = 0;  // -1: the user wants new random digits
 
   // The tick.
   std::int16_t JobState = 0;  // job code of this tick

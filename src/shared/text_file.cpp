@@ -18,9 +18,14 @@ std::string_view TakeLine(std::string_view& rest) {
 
 }  // namespace
 
-std::string_view LineOf(std::string_view text, std::size_t number) {
+std::optional<std::string_view> FindLine(std::string_view text, std::size_t number) {
   for (std::size_t passed = 0; passed < number && !text.empty(); ++passed) TakeLine(text);
+  if (text.empty()) return std::nullopt;
   return TakeLine(text);
+}
+
+std::string_view LineOf(std::string_view text, std::size_t number) {
+  return FindLine(text, number).value_or(std::string_view());
 }
 
 std::string ReadFirstLine(platform::Files& files, std::string_view path) {

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -14,7 +15,11 @@ namespace shared {
 
 inline constexpr std::size_t kTextFileLimit = 65536;
 
-// The line with that number, the first being 0; "" when there are fewer.
+// The line with that number, the first being 0; nothing when there are fewer. The end of the last
+// line starts no further one.
+std::optional<std::string_view> FindLine(std::string_view text, std::size_t number);
+
+// The same; "" when there are fewer.
 std::string_view LineOf(std::string_view text, std::size_t number);
 
 // First line of a file. "" when it is missing, empty, a folder or locked.
