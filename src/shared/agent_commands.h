@@ -1,6 +1,9 @@
-// What a window or a lower room may ask of the tray. The tray host implements it.
+// What a window, a menu item or a lower room may ask of the tray. The tray host implements it.
+//
+// The commands with an empty body do nothing until the room that carries them out stands.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -41,6 +44,45 @@ class AgentCommands {
 
   // Opens the error report.
   virtual void OpenErrorReport() = 0;
+
+  // Asks the main program for a backup now.
+  virtual void MnuBackupNowClick() {}
+
+  // Switches the automatic backup off or on.
+  virtual void MnuDisableAutobkupClick() {}
+
+  // Opens the newest log, or the running one's.
+  virtual void MnuOpenClick() {}
+
+  // Takes the icon out and ends the agent.
+  virtual void MnuExitClick() {}
+
+  // Opens the compact status panel.
+  virtual void OpenStatusPrompt() {}
+
+  // Asks before it logs out; before login, opens the main program.
+  virtual void MnuLoginClick() {}
+
+  // Logs out because the explorer extension says so; logs out and asks for a new login.
+  virtual void ExplorerLogout() {}
+  virtual void Relogin() {}
+
+  // Switches continuous backup; switches web management.
+  virtual void MnuCdpClick() {}
+  virtual void WebPluginClick() {}
+
+  // Tells a failure of web management: -1, -2 or -3.
+  virtual void HandleWebManagerError(std::int16_t) {}
+
+  // The system is about to sleep.
+  virtual void OnSuspend() {}
+
+  // Pages and programs of the side actions.
+  virtual void MnuQuotaExceededClick() {}
+  virtual void MnuOpenDriveClick() {}
+  virtual void MnuVersionUpdateClick() {}
+  virtual void MnuHelpClick() {}
+  virtual void MnuAboutClick() {}
 };
 
 }  // namespace shared

@@ -30,6 +30,22 @@ struct ExecutableNames {
   std::string service_batch_base;  // base word of the service's batch files
 };
 
+// Pages of the product's site, from the configuration file; fixed once at start-up.
+struct WebLinks {
+  std::string firewall;
+  std::string upgrade;
+  std::string account_upgrade;  // the user's name is put behind it
+  std::string login;
+  std::string forgotten_password;
+  std::string features;
+  std::string signup;
+  std::string update;
+  std::string support;
+  std::string setup;
+  std::string promote;
+  std::string website;
+};
+
 struct AgentState {
   // Identity of the product.
   std::int16_t ProductNumber = 0;  // 1 partner edition, 2 this product
@@ -44,6 +60,9 @@ struct AgentState {
   std::string MutexName;
   std::string ClientProgram;  // engine client, in InstallFolder
   ExecutableNames executables;
+  WebLinks links;
+  std::string FailureCaption;       // captions of the boxes that report a failure
+  std::string LogonFailureCaption;  // and a failed logon
   bool LargeFonts = false;
 
   // Places and the user.
@@ -82,6 +101,17 @@ struct AgentState {
   std::int16_t ServiceWaitTicks = 0;
   bool StartHelperLaunched = false;             // the elevated start was asked for once
   platform::ProcessId BackgroundProcessId = 0;  // as the last look found it
+
+  // The main form.
+  bool LoadingDone = false;          // the form has been loaded and the ticks are set
+  bool RestartStatusWindow = false;  // the status window is to be opened anew when it closes
+
+  // The web-management switch and the quota check.
+  std::int16_t WebManagementErrors = 0;
+  std::int16_t QuotaCheck = 0;
+
+  // Suspend and wake.
+  bool CancelWakeWait = false;  // a new, earlier time has come: the running wait ends
 
   // The product's own question box.
   bool MessageAnswer = false;

@@ -183,6 +183,13 @@ std::int16_t RegistryStore::ReadConnectionStatus() {
   return ToInt16(text).value_or(0);
 }
 
+std::string RegistryStore::ReadApplicationVersion() {
+  const RegValue value = QueryRegValue(
+      Hive::kCurrentUser, RootKey(state_).append(registry::kApplication), registry::kVersion);
+  const auto* text = std::get_if<std::string>(&value);
+  return text == nullptr ? std::string() : *text;
+}
+
 void RegistryStore::WriteConnectionStatus(std::int32_t status) {
   SetRegValue(Hive::kCurrentUser, RootKey(state_).append(registry::kConnectionParameters),
               registry::kConnectionStatus, NumberValue(status));

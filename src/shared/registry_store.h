@@ -49,6 +49,9 @@ class RegistryStore {
   std::int16_t ReadConnectionStatus();
   void WriteConnectionStatus(std::int32_t status);
 
+  // `Version` of `Application`: the installed version; "" when missing.
+  std::string ReadApplicationVersion();
+
   // Makes the dial-up entry of the profile's `ISPName` connect by itself.
   void ResetDialUpAutoConnect();
 
