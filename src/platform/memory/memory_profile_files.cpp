@@ -1,0 +1,79 @@
+#include <algorithm>
+
+#include "platform/memory/memory_files.h"
+
+namespace platform::memory {
+namespace {
+
+// A bare file name means the folder of Windows.
+std::string Place(std::string_view file) {
+  if (file.find('\\') != std::string_view::npos || file.find(':') != std::string_view::npos) {
+    return std::string(file);
+  }
+  return "C:\\Windows\\" + std::string(file);
+}
+
+// The rest of a text after its blanks, sign and digits do not count; too many digits wrap around.
+std::int32_t NumberOf(std::string_view text) {
+  text = TrimProfileBlanks(text);
+  bool negative = false;
+  if (!text.empty() && (text.front() == '-' || text.front() == '+')) {
+    negative = text.front() == '-';
+    text.remove_prefix(1);
+  }
+  std::uint32_t number = 0;
+  for (const char character : text) {
+    if (character < '0' || character > '9') break;
+    number = number * 10 + static_cast<std::uint32_t>(character - '0');
+  }
+  return static_cast<std::int32_t>(negative ? 0u - number : number);
+}
+
+}  // namespace
+
+bool MemoryProfileFiles::Fails(std::string_view name, std::string_view file,
+                               std::string_view section, std::string_view key) {
+  if (!world_.gate.on()) return false;
+  return world_.gate.Fails(
+      name, std::string(file) + " [" + std::string(section) + "] " + std::string(key));
+}
+
+std::string_view MemoryProfileFiles::Value(std::string_view file, std::string_view section,
+                                           std::string_view key) {
+  const bool bare = file.find('\\') == std::string_view::npos;
+  DiskNode* node = disk_.FindReadable(bare ? Place(file) : file);
+  if (node == nullptr) return {};
+  return StripProfileQuotes(node->index.Value(node->bytes, section, key));
+}
+
+std::string MemoryProfileFiles::ReadText(std::string_view file, std::string_view section,
+                                         std::string_view key, std::size_t buffer) {
+  if (buffer == 0 || Fails("profile_files.ReadText", file, section, key)) return {};
+  return std::string(Value(file, section, key).substr(0, buffer - 1));
+}
+
+std::int32_t MemoryProfileFiles::ReadInt(std::string_view file, std::string_view section,
+                                         std::string_view key) {
+  if (Fails("profile_files.ReadInt", file, section, key)) return 0;
+  return NumberOf(Value(file, section, key));
+}
+
+bool MemoryProfileFiles::WriteText(std::string_view file, std::string_view section,
+                                   std::string_view key, std::string_view value) {
+  const std::string path = Place(file);
+  const bool done = !Fails("profile_files.WriteText", file, section, key) && disk_.MayWrite(path);
+  if (done) {
+    DiskNode* node = disk_.FindFile(path);
+    if (node == nullptr) node = &disk_.SetContent(path, {});
+    node->index.SetValue(node->bytes, section, key, value);
+    disk_.Touch(*node);
+  }
+  if (world_.journal.kept()) {
+    world_.Note("profile", std::string(file) + " [" + std::string(section) + "] " +
+                               std::string(key) + "=" + std::string(value) +
+                               (done ? "" : " failed"));
+  }
+  return done;
+}
+
+}  // namespace platform::memory
