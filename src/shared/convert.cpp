@@ -1,8 +1,8 @@
 #include "shared/convert.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
 
 namespace shared {
@@ -39,15 +39,11 @@ std::size_t NumberLength(std::string_view text) {
 }
 
 // The value of a text that NumberLength measured; nothing when it is too large for a double. One
-// that is too small is 0.
+// that is too small is 0. The point is the separator: this program never sets a locale.
 std::optional<double> NumberValue(std::string_view number) {
-  if (number.starts_with('+')) number.remove_prefix(1);
-  double value = 0;
-  const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
-  if (error == std::errc()) return value;
-  const bool tiny = error == std::errc::result_out_of_range && std::fabs(value) < 1.0;
-  if (tiny) return 0.0;
-  return std::nullopt;
+  const double value = std::strtod(std::string(number).c_str(), nullptr);
+  if (!std::isfinite(value)) return std::nullopt;
+  return value;
 }
 
 template <typename Whole>
