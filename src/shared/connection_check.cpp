@@ -10,7 +10,6 @@
 #include "shared/paths.h"
 #include "shared/profile_store.h"
 #include "shared/server_address.h"
-#include "shared/text_file.h"
 #include "shared/transfer.h"
 
 namespace shared {
@@ -61,7 +60,7 @@ std::int16_t ConnectionCheck::AskServerAndAccount() {
   if (!AskServer()) return kFailed;
   // 6.
   machine_.clock.Sleep(kPause);
-  FollowRedirection();
+  FollowRedirection(machine_, state_);
   // 7.
   const double result = AskUntilReached(commands::kCheckAccount);
   // 8.
@@ -115,15 +114,6 @@ bool ConnectionCheck::AskServer() {
     machine_.clock.Sleep(kPause);
   }
   return true;
-}
-
-void ConnectionCheck::FollowRedirection() {
-  const auto text = machine_.files.Read(InUserFolder(state_, files::kDllOutput1), kTextFileLimit);
-  if (!text) return;
-  // A line that is not there leaves its part of the pair as it is.
-  if (const auto port = FindLine(*text, 0)) state_.ServerPort = *port;
-  if (const auto address = FindLine(*text, 1)) state_.ServerAddress = *address;
-  WriteServerKeys(machine_, state_);
 }
 
 double ConnectionCheck::AskUntilReached(const EngineCommand& command) {

@@ -46,7 +46,6 @@ class ConnectionCheck {
   void RemoveSideFiles();
   // False when the engine tells to give up.
   bool AskServer();
-  void FollowRedirection();
   // Runs a command until its result is not "unreachable" any more; returns the last result.
   double AskUntilReached(const EngineCommand& command);
 

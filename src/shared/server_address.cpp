@@ -3,12 +3,12 @@
 #include "shared/file_names.h"
 #include "shared/keys.h"
 #include "shared/paths.h"
+#include "shared/text_file.h"
 #include "shared/transfer.h"
 
 namespace shared {
 namespace {
 
-constexpr std::string_view kLocalPort = "700";
 constexpr std::int16_t kPartnerEdition = 1;
 
 }  // namespace
@@ -40,6 +40,15 @@ void WriteServerKeys(platform::Platform& machine, AgentState& state) {
 void FallBackAfterAttempt(platform::Platform& machine, AgentState& state, int attempt) {
   if (attempt % kAttemptsBeforeFallback != 0) return;
   SwitchServerAddress(machine.files, state, attempt);
+  WriteServerKeys(machine, state);
+}
+
+void FollowRedirection(platform::Platform& machine, AgentState& state) {
+  const auto text = machine.files.Read(InUserFolder(state, files::kDllOutput1), kTextFileLimit);
+  if (!text) return;
+  // A line that is not there leaves its part of the pair as it is.
+  if (const auto port = FindLine(*text, 0)) state.ServerPort = *port;
+  if (const auto address = FindLine(*text, 1)) state.ServerAddress = *address;
   WriteServerKeys(machine, state);
 }
 

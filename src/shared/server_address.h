@@ -1,6 +1,8 @@
 // The pair of server address and port in use, and where it falls back to.
 #pragma once
 
+#include <string_view>
+
 #include "platform/platform.h"
 #include "shared/agent_state.h"
 
@@ -19,6 +21,14 @@ void WriteServerKeys(platform::Platform& machine, AgentState& state);
 
 // On every fifth attempt SwitchServerAddress and WriteServerKeys.
 void FallBackAfterAttempt(platform::Platform& machine, AgentState& state, int attempt);
+
+// Takes the pair from DLLOutput1.txt of UserFolder, where the engine was sent to another server:
+// port in the first line, address in the second, then WriteServerKeys. A line that is not there
+// leaves its part of the pair as it is; without the file nothing changes.
+void FollowRedirection(platform::Platform& machine, AgentState& state);
+
+// The port of a test installation on this machine.
+inline constexpr std::string_view kLocalPort = "700";
 
 inline constexpr int kAttemptsBeforeFallback = 5;
 
