@@ -56,6 +56,8 @@ void frmTVWinService::Form_Load() {
   MoveMisspeltKey();
   // 14. The companions.
   KeepCompanionsAlive();
+  // 15. The slow tick.
+  machine_.events.StartTimer(kHousekeepingPeriod, [this] { housekeeping_.HousekeepingTick(); });
   // 16. Web management once more: its error may have come meanwhile.
   TellWebManagerError();
   // 17. The tip.

@@ -16,16 +16,20 @@ frmTVWinService::frmTVWinService(forms::FormHost& host, platform::Platform& mach
       texts_(texts),
       icon_(machine.shell, state),
       menu_(machine, state, texts, shared_texts),
-      commands_(machine, state, icon_, menu_),
+      commands_(machine, state, texts, shared_texts, messages, icon_, menu_, *this, CDPTimer,
+                WebMTimer),
       icon_events_(machine, state, texts, messages, menu_, *this),
       window_(machine, state, menu_, icon_events_, commands_,
               [this] {
                 RemoveTrayIcon();
                 AddTrayIcon();
               }),
-      tick_(machine, state, icon_, commands_) {
+      tick_(machine, state, icon_, commands_),
+      housekeeping_(machine, state, commands_) {
   menu_.Connect(commands_);
   on_load = [this] { Form_Load(); };
+  CDPTimer.on_tick = [this] { commands_.CDPTick(); };
+  WebMTimer.on_tick = [this] { commands_.WebMTick(); };
   // Nothing but the menu and the end of the session ends the agent.
   on_close = [this] { MinimiseToTray(); };
 }

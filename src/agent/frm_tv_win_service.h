@@ -5,6 +5,7 @@
 // It is loaded once and lives until the process ends.
 #pragma once
 
+#include "agent/housekeeping_tick.h"
 #include "agent/icon_events.h"
 #include "agent/main_tick.h"
 #include "agent/shared_texts.h"
@@ -19,8 +20,6 @@
 #include "shared/texts.h"
 
 namespace agent {
-
-inline constexpr std::uint32_t kHousekeepingPeriod = 20000;
 
 class frmTVWinService : public forms::Form {
  public:
@@ -66,6 +65,7 @@ class frmTVWinService : public forms::Form {
   IconEvents icon_events_;
   TrayWindow window_;
   MainTick tick_;
+  Housekeeping housekeeping_;
 };
 
 }  // namespace agent

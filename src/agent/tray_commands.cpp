@@ -3,10 +3,10 @@
 #include <string>
 
 #include "agent/executable_names.h"
+#include "agent/job_stop.h"
 #include "agent/main_tick.h"
 #include "agent/supervision.h"
 #include "agent/window_messages.h"
-#include "shared/convert.h"
 #include "shared/keys.h"
 #include "shared/paths.h"
 #include "shared/process_list.h"
@@ -22,9 +22,23 @@ constexpr std::string_view kPartnerTitle = "Tolvex Professional";
 
 }  // namespace
 
-TrayCommands::TrayCommands(platform::Platform& machine, shared::AgentState& state, TrayIcon& icon,
-                           TrayMenu& menu)
-    : machine_(machine), state_(state), icon_(icon), menu_(menu) {}
+TrayCommands::TrayCommands(platform::Platform& machine, shared::AgentState& state,
+                           shared::Texts& texts, const SharedTexts& shared_texts,
+                           shared::Messages& messages, TrayIcon& icon, TrayMenu& menu,
+                           forms::Form& form, forms::Timer& cdp_timer, forms::Timer& web_timer)
+    : machine_(machine),
+      state_(state),
+      icon_(icon),
+      menu_(menu),
+      alert_(form.Host(), {.open_options = [this] { MnuOptionsClick(); },
+                           .open_error_report = [this] { OpenErrorReport(); },
+                           .write_trace =
+                               [this](std::string_view line) {
+                                 shared::Trace(machine_, state_).WriteStamped(line);
+                               }}),
+      session_(machine, state, texts, messages, menu, *this),
+      continuous_(machine, state, texts, shared_texts, messages, menu, *this, form, cdp_timer),
+      web_(machine, state, texts, messages, menu, *this, form, web_timer, alert_) {}
 
 void TrayCommands::SetTrayIcon(std::string_view tip) {
   icon_.SetTrayIcon(tip);
@@ -44,34 +58,7 @@ void TrayCommands::MnuOptionsClick() {
 }
 
 void TrayCommands::StopClick() {
-  status::ProgressChannel channel(machine_, state_);
-  shared::ProcessList processes(machine_, state_);
-  // 1. The user.
-  shared::ProfileStore(machine_, state_).RefreshCurrentUser();
-  // 2. A scheduled job is asked to end, and given the time to see it.
-  if (shared::Trim(channel.ReadProgWnd(status::kProgWndJob)) == status::kJobScheduled) {
-    channel.WriteBackupStatus(status::kCancel, "1");
-    channel.WriteBackupStatus(status::kPaused, "0");
-    machine_.events.Pump();
-    machine_.clock.Sleep(status::kCancelWait);
-  }
-  // 3. A client that is still at it is ended; a job that has ended meanwhile costs nothing.
-  if (channel.HasSchedule()) {
-    if (channel.ReadJobKindCode() != "0") {
-      if (processes.IsProcessRunning(state_.ClientProgram, shared::WhenFound::kLeave)) {
-        processes.KillProcessByName(state_.ClientProgram);
-      }
-      channel.WriteBackupStatus(status::kStatus, status::kStatusStopRequested);
-      channel.WriteBackupStatus(status::kDllStatus, status::kDllStopped);
-    } else {
-      menu_.Item("mnuStop").SetEnabled(false);
-      menu_.Item("mnuStop").SetVisible(false);
-    }
-  }
-  // 4. What it came to.
-  shared::Trace(machine_, state_)
-      .WriteInformation("Stopped backup from mnuStop Tray status : " +
-                        channel.ReadBackupStatus(status::kStatus));
+  mnuStop_Click(machine_, state_, menu_, *this);
 }
 
 void TrayCommands::MnuBackupNowClick() {

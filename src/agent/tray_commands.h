@@ -8,8 +8,14 @@
 #include <string>
 #include <string_view>
 
+#include "agent/continuous_backup.h"
+#include "agent/session.h"
+#include "agent/shared_texts.h"
 #include "agent/tray_icon.h"
 #include "agent/tray_menu.h"
+#include "agent/web_management.h"
+#include "forms/form.h"
+#include "forms/frm_welcome.h"
 #include "platform/platform.h"
 #include "shared/agent_commands.h"
 #include "shared/agent_state.h"
@@ -18,8 +24,10 @@ namespace agent {
 
 class TrayCommands : public shared::AgentCommands {
  public:
-  TrayCommands(platform::Platform& machine, shared::AgentState& state, TrayIcon& icon,
-               TrayMenu& menu);
+  // `form` is the hidden main form, the timers are its one-shot continuations of the two switches.
+  TrayCommands(platform::Platform& machine, shared::AgentState& state, shared::Texts& texts,
+               const SharedTexts& shared_texts, shared::Messages& messages, TrayIcon& icon,
+               TrayMenu& menu, forms::Form& form, forms::Timer& cdp_timer, forms::Timer& web_timer);
 
   void SetTrayIcon(std::string_view tip) override;
   std::string BuildTrayTip() override { return {}; }
@@ -30,6 +38,17 @@ class TrayCommands : public shared::AgentCommands {
   void MnuDisableAutobkupClick() override;
   void MnuOpenClick() override;
   void MnuExitClick() override;
+  void MnuLoginClick() override { session_.MnuLogin_click(); }
+  void ExplorerLogout() override { session_.ExplorerLogout(); }
+  void Relogin() override { session_.Relogin(); }
+  void MnuCdpClick() override { continuous_.mnuCDP_Click(); }
+  void WebPluginClick() override { web_.WebPlugin_Click(); }
+  void HandleWebManagerError(std::int16_t error) override { web_.HandleWebManagerError(error); }
+  void CheckWebManagement() override { web_.CheckForError(); }
+
+  // The one tick of each switch's timer.
+  void CDPTick() { continuous_.CDPTimer(); }
+  void WebMTick() { web_.WebMTimer(); }
 
   void OpenStatusWindow() override {}
   void OpenSessionLog() override {}
@@ -43,6 +62,10 @@ class TrayCommands : public shared::AgentCommands {
   shared::AgentState& state_;
   TrayIcon& icon_;
   TrayMenu& menu_;
+  forms::frmWelcome alert_;
+  Session session_;
+  ContinuousBackup continuous_;
+  WebManagement web_;
 };
 
 }  // namespace agent

@@ -74,6 +74,16 @@ class AgentCommands {
   // Tells a failure of web management: -1, -2 or -3.
   virtual void HandleWebManagerError(std::int16_t) {}
 
+  // Tells a failure of web management when its plug-in has left one.
+  virtual void CheckWebManagement() {}
+
+  // Takes an open status window away; makes it show that the job was stopped.
+  virtual void CloseStatusWindow() {}
+  virtual void ResetStatusWindow() {}
+
+  // Shows the notice that scheduled backups have not run, headed by `sentence`.
+  virtual void ShowFailureNotification(std::string_view) {}
+
   // The system is about to sleep.
   virtual void OnSuspend() {}
 

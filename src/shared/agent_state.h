@@ -93,6 +93,7 @@ struct AgentState {
   bool CdpRunning = false;
   bool CdpIdle = false;
   bool KeepAwakeOn = false;
+  bool ContinuousSwitchUnderWay = false;  // a long handler pumps: its timer's ticks wait
   bool ForceStatusRefresh = false;
   double last_return_value = 0;  // the engine's result as ReadJobStatus saw it last
 
@@ -108,6 +109,8 @@ struct AgentState {
 
   // The web-management switch and the quota check.
   std::int16_t WebManagementErrors = 0;
+  std::int16_t WebRetryCount = 0;  // 1: the alert was shown since the switch was used
+  std::int16_t WebState = 0;       // 0: the plug-in has been ended
   std::int16_t QuotaCheck = 0;
 
   // Suspend and wake.
