@@ -27,3 +27,13 @@ function(sorvane_test name)
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST PROPERTIES LABELS native)
   endif()
 endfunction()
+
+# sorvane_fuzz(fuzz_NAME SOURCES file... [LINKS lib...]): one libFuzzer target. Its seeds lie in
+# fuzz/corpus/fuzz_NAME; `./run fuzz` runs all targets.
+function(sorvane_fuzz name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}")
+  target_link_libraries(${name} PRIVATE ${ARG_LINKS})
+  target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+endfunction()
