@@ -11,15 +11,6 @@ namespace {
 
 constexpr std::uint32_t kPeriod = 1000;  // milliseconds
 
-// The user's settings are stored with each character code, of key and value, raised by this.
-constexpr int kProfileShift = 4;
-
-std::string Shifted(std::string_view text, int by) {
-  std::string result(text);
-  for (char& c : result) c = static_cast<char>(c + by);
-  return result;
-}
-
 }  // namespace
 
 BackgroundModel::BackgroundModel(const Ports& ports, const Places& places, platform::Clock& clock,
@@ -35,10 +26,8 @@ std::uint32_t BackgroundModel::Step() {
 }
 
 bool BackgroundModel::ScheduleDisabled(std::string_view user) const {
-  const std::string stored =
-      ports_.profile_files.ReadText(places_.Profile(user), shared::sections::kTolvex,
-                                    Shifted(shared::keys::kScheduleDisable, kProfileShift));
-  return Shifted(stored, -kProfileShift) == "TRUE";
+  return Readable(ports_.profile_files.ReadText(places_.Profile(user), shared::sections::kTolvex,
+                                                Stored(shared::keys::kScheduleDisable))) == "TRUE";
 }
 
 }  // namespace lab

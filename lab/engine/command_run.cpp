@@ -48,8 +48,8 @@ void CommandRun::Answer() {
   const std::string profile = places_.Profile(user);
   if (!answer_.redirect_port.empty()) WriteRedirection();
   if (command_ == kRefreshQuota) {
-    ports_.profile_files.WriteText(profile, shared::sections::kQuotaStatus, shared::keys::kQuotaUsed,
-                                   kQuotaUsed);
+    ports_.profile_files.WriteText(profile, shared::sections::kQuotaStatus,
+                                   shared::keys::kQuotaUsed, kQuotaUsed);
     ports_.profile_files.WriteText(profile, shared::sections::kQuotaStatus, shared::keys::kQuotaMax,
                                    kQuotaMax);
   }

@@ -19,7 +19,8 @@ EngineModel::EngineModel(const Ports& ports, const Places& places, platform::Clo
                          std::string_view argument) {
   for (const JobWord& word : kJobWords) {
     if (word.argument == argument) {
-      work_.emplace<TransferJob>(ports, places, clock, word.kind, EngineScript(ports, places).Job());
+      work_.emplace<TransferJob>(ports, places, clock, word.kind,
+                                 EngineScript(ports, places).Job());
       return;
     }
   }

@@ -65,8 +65,8 @@ std::string EngineScript::Read(std::string_view section, std::string_view key) c
 JobPlan EngineScript::Job() const {
   JobPlan plan;
   plan.files = NumberOr(Read(kJob, "Files"), plan.files);
-  plan.interval = static_cast<std::uint32_t>(
-      NumberOr(Read(kJob, "Interval"), static_cast<int>(plan.interval)));
+  plan.interval =
+      static_cast<std::uint32_t>(NumberOr(Read(kJob, "Interval"), static_cast<int>(plan.interval)));
   const std::string word = Read(kJob, "Ending");
   for (const EndingWord& entry : kEndings) {
     if (entry.word == word) plan.ending = entry.ending;

@@ -1,13 +1,11 @@
 #include "lab/engine/places.h"
 
+#include "shared/character_shift.h"
 #include "shared/file_names.h"
 #include "shared/keys.h"
 
 namespace lab {
 namespace {
-
-// The user's name is stored with each character code raised by this.
-constexpr int kNameShift = 4;
 
 std::string Join(std::string_view folder, std::string_view name) {
   return std::string(folder) + "\\" + std::string(name);
@@ -31,13 +29,21 @@ std::string Places::Profile(std::string_view user) const {
   return InUserFolder(user, product_folder + ".ini");
 }
 
-std::string Places::UserNameIni() const { return InInstallFolder(shared::files::kUserNameIni); }
+std::string Places::UserNameIni() const {
+  return InInstallFolder(shared::files::kUserNameIni);
+}
+
+std::string Stored(std::string_view text) {
+  return shared::ShiftCharacters(text, shared::kProfileShift).text;
+}
+
+std::string Readable(std::string_view stored) {
+  return shared::ShiftCharacters(stored, -shared::kProfileShift).text;
+}
 
 std::string DefaultUser(const Ports& ports, const Places& places) {
-  std::string user = ports.profile_files.ReadText(places.UserNameIni(), shared::sections::kRegistry,
-                                                  shared::keys::kDefaultUserName);
-  for (char& c : user) c = static_cast<char>(c - kNameShift);
-  return user;
+  return Readable(ports.profile_files.ReadText(places.UserNameIni(), shared::sections::kRegistry,
+                                               shared::keys::kDefaultUserName));
 }
 
 std::string ActingUser(const Ports& ports, const Places& places) {

@@ -1,5 +1,5 @@
-// Where the engine's programs find the files of an installation: told anew here, apart from the
-// agent's own code, so that a mistake on one side shows as a disagreement between the two.
+// Where the engine's programs find the files of an installation. The folders are told anew here,
+// apart from the agent's own code, so that a mistake on one side shows as a disagreement.
 #pragma once
 
 #include <string>
@@ -27,6 +27,10 @@ struct Places {
   std::string Profile(std::string_view user) const;
   std::string UserNameIni() const;
 };
+
+// A key or value of the profile as it stands in the file, and back.
+std::string Stored(std::string_view text);
+std::string Readable(std::string_view stored);
 
 // The one logged-in user of the installation; "" for nobody.
 std::string DefaultUser(const Ports& ports, const Places& places);

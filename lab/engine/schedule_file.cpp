@@ -76,7 +76,9 @@ std::string_view RunningCode(std::string_view backup_set) {
 ScheduleFile::ScheduleFile(const Ports& ports, const Places& places, std::string_view user)
     : ports_(ports), path_(places.InUserFolder(user, shared::files::kScheduleData)) {}
 
-bool ScheduleFile::Exists() const { return ports_.files.Exists(path_); }
+bool ScheduleFile::Exists() const {
+  return ports_.files.Exists(path_);
+}
 
 std::vector<std::string> ScheduleFile::Lines() const {
   std::vector<std::string> lines;

@@ -20,8 +20,15 @@ enum ScheduleField : std::size_t {
   kRecordNo = 0,
   kBackupSetName = 1,
   kStartDateTime = 2,
+  kCreatedDateTime = 3,
+  kMonthDay = 4,
+  kCarriedValue = 5,
+  kMailIds = 6,
+  kMailNotifyMode = 7,
+  kMailLogFlag = 8,
   kSortKey = 9,
   kFrequencyCode = 10,
+  kWeekDayMask = 11,
   kScheduleFields = 12,
 };
 

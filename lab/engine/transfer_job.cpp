@@ -122,8 +122,7 @@ std::optional<std::uint32_t> TransferJob::Start() {
     SetStarted("1");
     SetStatus(status::kDllStatus, "1");
   }
-  SetProgress(NamesOf(kind_).in_progress,
-              "1");
+  SetProgress(NamesOf(kind_).in_progress, "1");
   phase_ = Phase::kTransfer;
   return plan_.interval;
 }
@@ -251,8 +250,7 @@ void TransferJob::WriteLog(Outcome outcome) {
 }
 
 void TransferJob::ClearProgress() {
-  SetProgress(NamesOf(kind_).in_progress,
-              "0");
+  SetProgress(NamesOf(kind_).in_progress, "0");
   SetProgWnd(status::kProgWndJob, "0");
   SetProgWnd(status::kProgWndValue, "0");
 }
@@ -266,9 +264,8 @@ void TransferJob::SetStatus(std::string_view key, std::string_view value) {
 }
 
 void TransferJob::SetProgress(std::string_view key, std::string_view value) {
-  ports_.profile_files.WriteText(InUserFolder(status::kProgressFile),
-                                 NamesOf(kind_).section,
-                                 key, value);
+  ports_.profile_files.WriteText(InUserFolder(status::kProgressFile), NamesOf(kind_).section, key,
+                                 value);
 }
 
 void TransferJob::SetProgWnd(std::string_view key, std::string_view value) {
