@@ -1,0 +1,47 @@
+#include "status/fast_tick.h"
+
+#include "status/progress_keys.h"
+#include "status/transfer_view.h"
+
+namespace status {
+namespace {
+
+void LeaveTransferView(StatusView& view, IdleView& idle, const StatusContext& context) {
+  view.transfer_shown = false;
+  if (view.status_line != context.texts.job_in_progress) return;
+  idle.SetStatusLine("");
+  idle.GetNextTransferTime();
+  view.log_enabled = true;
+}
+
+}  // namespace
+
+void DecideFastTick(const TickFrame& frame, IdleView& idle, std::string_view user,
+                    const TransferSnapshot& transfer) {
+  StatusView& view = frame.view;
+  // 1.
+  if (frame.memory.user != user) {
+    frame.memory.user = user;
+    frame.effects.Trace(" [INFORMATION] User login has been changed ");
+    idle.SetStatusLine("");
+    idle.GetNextTransferTime();
+  }
+  // 2.
+  if (user.empty()) return idle.LoggedOut();
+  idle.LoggedIn();
+  // 3.
+  SetTitleOfTick(view, transfer, frame.context);
+  view.notification_shown = !transfer.in_progress || transfer.job == kJobScheduled;
+  // 4., 5.
+  if (transfer.IsShownHere()) return EnterTransferView(view, transfer, frame.context);
+  // 6.
+  if (transfer.IsShownByEngine()) return idle.GiveWay();
+  // 7., 8.
+  if (transfer.in_progress) {
+    idle.ShowUnseenTransfer(transfer);
+  } else {
+    LeaveTransferView(view, idle, frame.context);
+  }
+}
+
+}  // namespace status

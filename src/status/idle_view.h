@@ -1,0 +1,81 @@
+// The idle face of the status window: account, quota, outcome and next run, and which face is shown.
+//
+// Rules only: they change a view and a memory and list what is to be written, in order. What stays
+// unmentioned stays as it is shown.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "status/schedule_texts.h"
+#include "status/status_effects.h"
+#include "status/status_snapshot.h"
+#include "status/status_view.h"
+
+namespace status {
+
+class IdleView {
+ public:
+  // All must outlive the call of one rule or the next.
+  IdleView(StatusView& view, StatusMemory& memory, StatusEffects& effects,
+           const IdleSnapshot& now, const StatusContext& context, ScheduleTexts& schedule);
+
+  // Everything the window shows of a user at rest: status line, next-run line and quota row. Leaves
+  // them alone without scheduleData.txt.
+  void GetNextTransferTime();
+
+  // Shows "used out of allowed" and the bar, or hides the row while the quota is unknown.
+  void QuotaRow();
+
+  // Nobody is logged in.
+  void LoggedOut();
+
+  // Somebody is logged in again.
+  void LoggedIn();
+
+  // The slow tick's decision, see the steps inside.
+  void Periodic(const TransferSnapshot& transfer);
+
+  // The same when the window is loaded: with its own trace lines, and with the settings that are
+  // read once. `desktop_notification` is that value of BackupStatus.
+  void Load(const TransferSnapshot& transfer, std::string_view desktop_notification);
+
+  // A transfer that is shown neither here nor by the engine's own window.
+  void ShowUnseenTransfer(const TransferSnapshot& transfer);
+
+  // The engine's own window is up: this one gives way to it.
+  void GiveWay();
+
+  // Sets the status line in the ordinary size, or in `points`.
+  void SetStatusLine(std::string_view text);
+  void SetStatusLine(std::string_view text, int points);
+
+ private:
+  enum class Occasion { kTick, kLoad };
+
+  void Decide(const TransferSnapshot& transfer);
+  void ShowTransfer(const TransferSnapshot& transfer);
+  void ShowQuotaExceeded();
+  void ShowScheduledJob();
+  void ShowLastJob(const NextRun& next);
+  void RefreshOutcome(const NextRun& next);
+  void NoScheduleText();
+  void ShowOutcome(const NextRun& next);
+  void NextLine(const NextRun& next);
+  void ShowQuotaBar();
+  std::string TellTime(const NextRun& next);
+  NextRun ReadNextRun();
+  bool JobIsRunning() const;
+  bool ShowsAtOnce() const;
+  void TraceOnLoad(std::string_view line);
+
+  StatusView& view_;
+  StatusMemory& memory_;
+  StatusEffects& effects_;
+  const IdleSnapshot& now_;
+  const StatusContext& context_;
+  ScheduleTexts& schedule_;
+  Occasion occasion_ = Occasion::kTick;
+};
+
+}  // namespace status
