@@ -1,6 +1,7 @@
 #include "agent/form_messages.h"
 
 #include <string_view>
+#include <utility>
 
 #include "forms/frm_general_message.h"
 
@@ -26,6 +27,17 @@ FormMessages::FormMessages(forms::FormHost& host, shared::AgentState& state)
 
 bool FormMessages::ShowMessage(const shared::Message& message) {
   forms::frmGeneralMessage box(host_, state_.MessageAnswer);
+  forms::Form* const outer = std::exchange(open_, &box);
+  const bool answer = Show(box, message);
+  open_ = outer;
+  return answer;
+}
+
+void FormMessages::Dismiss() {
+  if (open_ != nullptr) open_->Unload();
+}
+
+bool FormMessages::Show(forms::frmGeneralMessage& box, const shared::Message& message) {
   const std::string_view picture = PictureKey(message.picture);
   if (message.title.empty()) {
     return box.ShowMessage(message.text, message.first_caption, message.second_caption,

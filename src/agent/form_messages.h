@@ -2,6 +2,7 @@
 #pragma once
 
 #include "forms/form_host.h"
+#include "forms/frm_general_message.h"
 #include "shared/agent_state.h"
 #include "shared/messages.h"
 
@@ -12,10 +13,14 @@ class FormMessages : public shared::Messages {
   FormMessages(forms::FormHost& host, shared::AgentState& state);
 
   bool ShowMessage(const shared::Message& message) override;
+  void Dismiss() override;
 
  private:
+  static bool Show(forms::frmGeneralMessage& box, const shared::Message& message);
+
   forms::FormHost& host_;
   shared::AgentState& state_;
+  forms::Form* open_ = nullptr;  // the box on the screen
 };
 
 }  // namespace agent

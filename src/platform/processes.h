@@ -73,6 +73,9 @@ class Processes {
   // True for a 32-bit process on a 64-bit system.
   virtual bool IsWow64() = 0;
 
+  // Puts this process into the normal priority class. False when the system refuses.
+  virtual bool SetNormalPriority() = 0;
+
   // The folder of this executable, without a final backslash.
   virtual std::string ExecutableFolder() = 0;
 };

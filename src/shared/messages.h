@@ -24,6 +24,9 @@ class Messages {
 
   // Shows the box and waits, with timers running, until it is answered: true for the first button.
   virtual bool ShowMessage(const Message& message) = 0;
+
+  // Takes away a box that is open, as if it were closed; nothing without one.
+  virtual void Dismiss() {}
 };
 
 }  // namespace shared

@@ -19,9 +19,13 @@ std::int16_t ValueOr(std::string_view stored, std::int16_t otherwise) {
 
 }  // namespace
 
-std::int16_t BandwidthValue(std::string_view stored) { return ValueOr(stored, kFull); }
+std::int16_t BandwidthValue(std::string_view stored) {
+  return ValueOr(stored, kFull);
+}
 
-std::int16_t IdleBandwidthValue(std::string_view stored) { return ValueOr(stored, kIdle); }
+std::int16_t IdleBandwidthValue(std::string_view stored) {
+  return ValueOr(stored, kIdle);
+}
 
 void ShowBandwidthSlider(BandwidthPanel& panel, const TransferSnapshot& transfer) {
   panel.auto_pause = transfer.backup_idle == "1" && transfer.backup_idle_state == "1";

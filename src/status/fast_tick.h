@@ -15,8 +15,8 @@ struct TickFrame {
   const StatusContext& context;
 };
 
-// One tick. `idle` works on the same view, memory and effects, with the files of `user`, the default
-// user as just read.
+// One tick. `idle` works on the same view, memory and effects, with the files of `user`, the
+// default user as just read.
 void DecideFastTick(const TickFrame& frame, IdleView& idle, std::string_view user,
                     const TransferSnapshot& transfer);
 

@@ -18,27 +18,27 @@ constexpr int kSmallestPoints = 8;
 
 }  // namespace
 
-IdleView::IdleView(StatusView& view, StatusMemory& memory, StatusEffects& effects,
-                   const IdleSnapshot& now, const StatusContext& context, ScheduleTexts& schedule)
+IdleView::IdleView(StatusView& view, StatusMemory& memory, StatusEffects& effects, ReadIdle read,
+                   const StatusContext& context, ScheduleTexts& schedule)
     : view_(view),
       memory_(memory),
       effects_(effects),
-      now_(now),
+      read_(std::move(read)),
       context_(context),
       schedule_(schedule) {}
 
 void IdleView::GetNextTransferTime() {
   // 1.
-  view_.user_name = now_.user;
+  view_.user_name = Now().user;
   // 2.
-  if (!now_.has_schedule) return;
+  if (!Now().has_schedule) return;
   const NextRun next = ReadNextRun();
   // 3.
   if (!StartTimeField(next.line).empty()) {
     // 4.
     SetStatusLine(TellTime(next));
     // 5.
-    if (now_.schedule_disabled) {
+    if (Now().schedule_disabled) {
       SetStatusLine(context_.texts.schedule_disabled);
     } else {
       NextLine(next);
@@ -51,25 +51,25 @@ void IdleView::GetNextTransferTime() {
 void IdleView::QuotaRow() {
   // 1. The snapshot holds the second reading where the first gave nothing.
   // 2., 3.
-  const bool known = now_.quota.used >= 0;
+  const bool known = Now().quota.used >= 0;
   view_.quota_text_shown = known;
   view_.space_label_shown = known;
   view_.quota_bar_shown = known;
   if (!known) return;
-  view_.quota_text = FormatSizeText(now_.quota.used, now_.decimal_separator) + " " +
+  view_.quota_text = FormatSizeText(Now().quota.used, Now().decimal_separator) + " " +
                      context_.texts.out_of + " " +
-                     FormatSizeText(now_.quota.max, now_.decimal_separator);
+                     FormatSizeText(Now().quota.max, Now().decimal_separator);
   // 4.
   ShowQuotaBar();
 }
 
 void IdleView::ShowQuotaBar() {
-  const QuotaBar bar = ComputeQuotaBar(now_.quota.used, now_.quota.max);
+  const QuotaBar bar = ComputeQuotaBar(Now().quota.used, Now().quota.max);
   view_.quota_bar = bar.position;
   view_.quota_colour = bar.colour;
   if (bar.exceeded) {
     SetStatusLine(kQuotaExceededTwoLines, kSmallPoints);
-  } else if (now_.ret_value == "-432" && now_.quota.used < now_.quota.max) {
+  } else if (Now().ret_value == "-432" && Now().quota.used < Now().quota.max) {
     // The engine said "exceeded", the figures say otherwise: they are stale.
     effects_.RefreshQuota();
     SetStatusLine(context_.texts.quota_exceeded);
@@ -77,22 +77,22 @@ void IdleView::ShowQuotaBar() {
 }
 
 void IdleView::NextLine(const NextRun& next) {
-  view_.next_line = NextLineText(next, now_.short_date, context_.texts);
+  view_.next_line = NextLineText(next, Now().short_date, context_.texts);
   view_.next_line_shown = true;
 }
 
 void IdleView::ShowOutcome(const NextRun& next) {
-  SetStatusLine(now_.outcome, kSmallPoints);
+  SetStatusLine(Now().outcome, kSmallPoints);
   NextLine(next);
 }
 
 void IdleView::NoScheduleText() {
-  if (now_.schedule_disabled) {
+  if (Now().schedule_disabled) {
     TraceOnLoad("   [INFORMATION] Form-Load: Scheduler is disabled");
     SetStatusLine(context_.texts.schedule_disabled);
-  } else if ((now_.indicator == kIndicatorQuota || now_.indicator == kIndicatorAccount) &&
-             !now_.outcome.empty()) {
-    SetStatusLine(now_.outcome);
+  } else if ((Now().indicator == kIndicatorQuota || Now().indicator == kIndicatorAccount) &&
+             !Now().outcome.empty()) {
+    SetStatusLine(Now().outcome);
   } else {
     SetStatusLine(context_.texts.no_schedule);
   }
@@ -130,14 +130,14 @@ void IdleView::Load(const TransferSnapshot& transfer, std::string_view desktop_n
   occasion_ = Occasion::kLoad;
   TraceOnLoad("   [INFORMATION] Loaded Status Form");
   memory_.recent_backup = false;
-  memory_.user = now_.user;
+  memory_.user = Now().user;
   view_.title = ScheduledTitle(context_.display_name);
   view_.status_points = context_.large_fonts ? kSmallPoints : kOrdinaryPoints;
   if (desktop_notification == "1") view_.notification_checked = true;
   if (desktop_notification == "0") view_.notification_checked = false;
   Decide(transfer);
-  const bool at_home = !now_.user.empty() && !effects_.GivesWay();
-  if (at_home && !now_.has_schedule) SetStatusLine(context_.texts.no_schedule);
+  const bool at_home = !Now().user.empty() && !effects_.GivesWay();
+  if (at_home && !Now().has_schedule) SetStatusLine(context_.texts.no_schedule);
   view_.slow_timer = true;
 }
 
@@ -145,7 +145,7 @@ void IdleView::Decide(const TransferSnapshot& transfer) {
   // 1.
   ++memory_.refresh_tick_count;
   // 2.
-  if (now_.user.empty()) return LoggedOut();
+  if (Now().user.empty()) return LoggedOut();
   LoggedIn();
   // 3.
   if (transfer.IsShownByEngine()) return GiveWay();
@@ -153,15 +153,16 @@ void IdleView::Decide(const TransferSnapshot& transfer) {
   if (transfer.in_progress) return ShowTransfer(transfer);
   // 5.
   view_.transfer_shown = false;
-  if (view_.user_name != now_.user) {
+  if (view_.user_name != Now().user) {
     SetStatusLine("");
     GetNextTransferTime();
   }
-  view_.user_name = now_.user;
+  view_.user_name = Now().user;
   // 6.
-  if (now_.quota.used > now_.quota.max && context_.product_number != 1) return ShowQuotaExceeded();
+  if (Now().quota.used > Now().quota.max && context_.product_number != 1)
+    return ShowQuotaExceeded();
   // 7.
-  if (!now_.has_schedule) {
+  if (!Now().has_schedule) {
     TraceOnLoad("   [INFORMATION] Form-Load: No schedule Data File");
     view_.next_line_shown = false;
     QuotaRow();
@@ -212,14 +213,14 @@ void IdleView::ShowUnseenTransfer(const TransferSnapshot& transfer) {
 
 void IdleView::ShowQuotaExceeded() {
   TraceOnLoad("   [INFORMATION] Form-Load Quota is exceeded");
-  if (now_.indicator == kIndicatorQuota && !now_.outcome.empty()) {
-    SetStatusLine(now_.outcome);
+  if (Now().indicator == kIndicatorQuota && !Now().outcome.empty()) {
+    SetStatusLine(Now().outcome);
   } else {
     effects_.WriteOutcome(context_.texts.quota_exceeded);
     effects_.WriteIndicator("2");
     SetStatusLine(kQuotaExceededTwoLines, kSmallestPoints);
   }
-  const NextRun next = now_.has_schedule ? ReadNextRun() : NextRun{};
+  const NextRun next = Now().has_schedule ? ReadNextRun() : NextRun{};
   if (JobIsRunning()) {
     view_.next_line.clear();
     view_.next_line_shown = false;
@@ -232,7 +233,7 @@ void IdleView::ShowQuotaExceeded() {
 void IdleView::ShowScheduledJob() {
   TraceOnLoad("   [INFORMATION] Form-Load: Schedule backup in progress.");
   // The stop is added to the text whatever the text ends in.
-  SetStatusLine(now_.paused ? std::string(kJobPaused) : context_.texts.job_in_progress + ".");
+  SetStatusLine(Now().paused ? std::string(kJobPaused) : context_.texts.job_in_progress + ".");
   view_.space_label_shown = false;
   view_.quota_text_shown = false;
   view_.quota_bar_shown = false;
@@ -246,16 +247,16 @@ void IdleView::ShowLastJob(const NextRun& next) {
   // 10.
   if (ShowsAtOnce()) {
     TraceOnLoad("   [INFORMATION] Form-Load: Quota Exceeded");
-    SetStatusLine(now_.outcome);
+    SetStatusLine(Now().outcome);
     return QuotaRow();
   }
   // 11.
-  if (now_.status_window == 1) return RefreshOutcome(next);
+  if (Now().status_window == 1) return RefreshOutcome(next);
   // 12. A value above 1 stops all handling of outcomes for as long as it stays.
-  if (now_.status_window > 1) return;
+  if (Now().status_window > 1) return;
   if (memory_.refresh_tick_count < kTicksOfOneRefresh && !memory_.force_refresh) return;
-  if (now_.indicator == kIndicatorQuota) {
-    SetStatusLine(now_.outcome);
+  if (Now().indicator == kIndicatorQuota) {
+    SetStatusLine(Now().outcome);
     QuotaRow();
   } else {
     RefreshOutcome(next);
@@ -263,10 +264,10 @@ void IdleView::ShowLastJob(const NextRun& next) {
   memory_.refresh_tick_count = 0;
 }
 
-bool IdleView::ShowsAtOnce() const {
-  if (occasion_ == Occasion::kLoad) return now_.indicator == kIndicatorQuota;
-  return now_.status_window == 1 &&
-         (now_.indicator == kIndicatorQuota || now_.indicator == kIndicatorAccount);
+bool IdleView::ShowsAtOnce() {
+  if (occasion_ == Occasion::kLoad) return Now().indicator == kIndicatorQuota;
+  return Now().status_window == 1 &&
+         (Now().indicator == kIndicatorQuota || Now().indicator == kIndicatorAccount);
 }
 
 void IdleView::RefreshOutcome(const NextRun& next) {
@@ -287,18 +288,23 @@ void IdleView::RefreshOutcome(const NextRun& next) {
 
 std::string IdleView::TellTime(const NextRun& next) {
   const std::string date = schedule_.ValidateSorvaneDateFormat(StartTimeField(next.line));
-  TimeDifference difference = schedule_.GetTimeDifference(date, now_.last_run);
+  TimeDifference difference = schedule_.GetTimeDifference(date, Now().last_run);
   if (difference.recent) memory_.recent_backup = true;
   return std::move(difference.text);
 }
 
 NextRun IdleView::ReadNextRun() {
-  if (context_.product_number == 2) return {now_.second_line, {}};
+  if (context_.product_number == 2) return {Now().second_line, {}};
   return schedule_.GetScheduleDate();
 }
 
-bool IdleView::JobIsRunning() const {
-  return now_.has_schedule && !now_.job_kind.empty() && now_.job_kind != "0";
+bool IdleView::JobIsRunning() {
+  return Now().has_schedule && !Now().job_kind.empty() && Now().job_kind != "0";
+}
+
+const IdleSnapshot& IdleView::Now() {
+  if (!now_) now_ = read_();
+  return *now_;
 }
 
 void IdleView::TraceOnLoad(std::string_view line) {

@@ -1,9 +1,12 @@
-// The idle face of the status window: account, quota, outcome and next run, and which face is shown.
+// The idle face of the status window: account, quota, outcome and next run, and which face is
+// shown.
 //
 // Rules only: they change a view and a memory and list what is to be written, in order. What stays
 // unmentioned stays as it is shown.
 #pragma once
 
+#include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -14,11 +17,14 @@
 
 namespace status {
 
+using ReadIdle = std::function<IdleSnapshot()>;
+
 class IdleView {
  public:
-  // All must outlive the call of one rule or the next.
-  IdleView(StatusView& view, StatusMemory& memory, StatusEffects& effects,
-           const IdleSnapshot& now, const StatusContext& context, ScheduleTexts& schedule);
+  // `read` gives the files as they stand; it is called once, when a rule first needs them. All
+  // references must outlive the rules.
+  IdleView(StatusView& view, StatusMemory& memory, StatusEffects& effects, ReadIdle read,
+           const StatusContext& context, ScheduleTexts& schedule);
 
   // Everything the window shows of a user at rest: status line, next-run line and quota row. Leaves
   // them alone without scheduleData.txt.
@@ -65,14 +71,16 @@ class IdleView {
   void ShowQuotaBar();
   std::string TellTime(const NextRun& next);
   NextRun ReadNextRun();
-  bool JobIsRunning() const;
-  bool ShowsAtOnce() const;
+  bool JobIsRunning();
+  bool ShowsAtOnce();
   void TraceOnLoad(std::string_view line);
+  const IdleSnapshot& Now();
 
   StatusView& view_;
   StatusMemory& memory_;
   StatusEffects& effects_;
-  const IdleSnapshot& now_;
+  ReadIdle read_;
+  std::optional<IdleSnapshot> now_;
   const StatusContext& context_;
   ScheduleTexts& schedule_;
   Occasion occasion_ = Occasion::kTick;

@@ -6,6 +6,7 @@
 #include "shared/paths.h"
 #include "shared/text_file.h"
 #include "status/progress_keys.h"
+#include "status/status_texts.h"
 
 namespace status {
 namespace {
@@ -45,8 +46,6 @@ constexpr std::array kResetWrites = {
     ProgressWrite{kRestoreProgressSection, kFilePathDual, ""},
     ProgressWrite{kRestoreProgressSection, kFilePercentDual, ""},
 };
-
-constexpr std::string_view kBackupHasFailed = "Backup has failed";
 
 }  // namespace
 

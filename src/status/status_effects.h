@@ -39,7 +39,9 @@ class StatusEffects {
   bool GivesWay() const { return gives_way_; }
 
  private:
-  void Add(EffectKind kind, std::string_view text) { effects_.push_back({kind, std::string(text)}); }
+  void Add(EffectKind kind, std::string_view text) {
+    effects_.push_back({kind, std::string(text)});
+  }
 
   std::vector<Effect> effects_;
   bool gives_way_ = false;

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "shared/code_page.h"
 #include "shared/convert.h"
 #include "shared/keys.h"
 #include "shared/paths.h"
@@ -29,7 +30,8 @@ constexpr std::array kProgressSlots = {
 
 // Through the system's code page and back, as other programs show it.
 std::string ConvertFileNameText(platform::Locale& locale, std::string_view text) {
-  return locale.FromWide(locale.ToWide(text));
+  namespace code_page = shared::basInCodePage;
+  return code_page::ConvertFromWide(locale, code_page::ConvertToWide(locale, text));
 }
 
 ProgressTexts ReadProgressTexts(platform::Platform& machine, ProgressChannel& channel,
@@ -102,8 +104,7 @@ TransferSnapshot ReadTransferSnapshot(platform::Platform& machine, shared::Agent
 
 StatusContext ReadStatusContext(platform::Platform& machine, const shared::AgentState& state) {
   shared::Texts texts(machine, state);
-  return {state.ProductNumber, state.DisplayName, state.LargeFonts,
-          ReadStatusTexts(texts, state)};
+  return {state.ProductNumber, state.DisplayName, state.LargeFonts, ReadStatusTexts(texts, state)};
 }
 
 }  // namespace status

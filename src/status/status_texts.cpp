@@ -21,11 +21,13 @@ constexpr std::array kSlots = {
     TextSlot{&StatusTexts::next_backup, {1698, "Your next backup"}},
     TextSlot{&StatusTexts::will_occur_on, {1699, "will occur on"}},
     TextSlot{&StatusTexts::out_of, {986, "out of"}},
-    TextSlot{&StatusTexts::log_in, {989, "Login to the account for which you want to see the status."}},
-    TextSlot{&StatusTexts::quota_exceeded,
-             {814,
-              "Your data could not be backed up as you have utilized the allocated quota. Upgrade and "
-              "try again."}},
+    TextSlot{&StatusTexts::log_in,
+             {989, "Login to the account for which you want to see the status."}},
+    TextSlot{
+        &StatusTexts::quota_exceeded,
+        {814,
+         "Your data could not be backed up as you have utilized the allocated quota. Upgrade and "
+         "try again."}},
     TextSlot{&StatusTexts::job_canceled,
              {1486,
               "All your files/folders could not be backed up as the scheduled job was manually "
@@ -42,8 +44,8 @@ StatusTexts ReadStatusTexts(shared::Texts& texts, const shared::AgentState& stat
   result.quota_exceeded = shared::ReplaceAll(result.quota_exceeded, "Please upgrade", "Upgrade");
   result.schedule_disabled = texts.GetText(kScheduleDisabled);
   if (result.schedule_disabled.empty()) {
-    result.schedule_disabled = "You have disabled the scheduled backup from the " +
-                               state.DisplayName + " tray menu.";
+    result.schedule_disabled =
+        "You have disabled the scheduled backup from the " + state.DisplayName + " tray menu.";
   }
   return result;
 }

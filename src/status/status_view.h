@@ -1,4 +1,5 @@
-// What the status window shows, as plain values. Rules change a view; the window draws what differs.
+// What the status window shows, as plain values. Rules change a view; the window draws what
+// differs.
 #pragma once
 
 #include <cstdint>
@@ -15,18 +16,18 @@ enum class OverallWidth { kDesign, kWider, kRestore };
 struct BandwidthPanel {
   bool shown = true;
   bool enabled = true;
-  bool auto_pause = false;  // picture "chkautopause", the note is shown
+  bool auto_pause = false;   // picture "chkautopause", the note is shown
   std::int16_t value = 100;  // percent
   friend bool operator==(const BandwidthPanel&, const BandwidthPanel&) = default;
 };
 
 // The transfer view, inside progressFrame.
 struct TransferPanel {
-  bool controls_shown = false;   // bar, file, overall line, pause button
-  bool counters_shown = false;   // files, estimate, elapsed
+  bool controls_shown = false;  // bar, file, overall line, pause button
+  bool counters_shown = false;  // files, estimate, elapsed
   bool rate_shown = false;
-  bool says_resume = false;      // caption and picture of the pause button
-  std::string file_path;         // one line, or two
+  bool says_resume = false;  // caption and picture of the pause button
+  std::string file_path;     // one line, or two
   std::string overall;
   bool overall_red = false;
   OverallWidth overall_width = OverallWidth::kDesign;

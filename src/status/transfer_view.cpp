@@ -21,7 +21,9 @@ struct PanelDesign {
 constexpr PanelDesign kBackupPanel = {"Backedup files: ", OverallWidth::kWider};
 constexpr PanelDesign kRestorePanel = {"Restored files: ", OverallWidth::kRestore};
 
-bool IsRunning(std::string_view in_progress) { return shared::Trim(in_progress) == "1"; }
+bool IsRunning(std::string_view in_progress) {
+  return shared::Trim(in_progress) == "1";
+}
 
 std::string_view PausedText(const TransferSnapshot& transfer, bool backup) {
   if (!backup) return kRestorePaused;
@@ -36,8 +38,8 @@ void ShowCounters(TransferPanel& panel, const ProgressTexts& progress, const Pan
   panel.file_count = std::string(design.file_count_label) + progress.file_count;
 }
 
-void RefreshPanel(StatusView& view, const TransferSnapshot& transfer,
-                  const StatusContext& context, bool backup) {
+void RefreshPanel(StatusView& view, const TransferSnapshot& transfer, const StatusContext& context,
+                  bool backup) {
   const PanelDesign& design = backup ? kBackupPanel : kRestorePanel;
   TransferPanel& panel = view.transfer;
   // 1.
@@ -87,8 +89,8 @@ void EnterTransferView(StatusView& view, const TransferSnapshot& transfer,
                        const StatusContext& context) {
   // 1.
   const bool scheduled = transfer.job == kJobScheduled || transfer.job.empty();
-  view.title = scheduled ? ScheduledTitle(context.display_name)
-                         : TransferTitle(context.display_name);
+  view.title =
+      scheduled ? ScheduledTitle(context.display_name) : TransferTitle(context.display_name);
   // 2. The button follows the pause here, so that the panel finds it as it is.
   view.transfer.says_resume = transfer.paused;
   // 3.
@@ -104,7 +106,7 @@ void EnterTransferView(StatusView& view, const TransferSnapshot& transfer,
 
 void RefreshProgressView(StatusView& view, const TransferSnapshot& transfer,
                          const StatusContext& context) {
-  // 1. The process's priority is the window's business.
+  // 1. The reader of `transfer` has seen to the process's priority.
   // 2., 3.
   BandwidthPanel& bandwidth = view.transfer.bandwidth;
   bandwidth.shown = transfer.restore != "1";

@@ -109,6 +109,12 @@ SystemVersion MemoryProcesses::Version() {
   return version_;
 }
 
+bool MemoryProcesses::SetNormalPriority() {
+  if (world_.gate.Fails("processes.SetNormalPriority")) return false;
+  normal_priority_ = true;
+  return true;
+}
+
 bool MemoryProcesses::IsWow64() {
   return !world_.gate.Fails("processes.IsWow64") && wow64_;
 }

@@ -58,6 +58,7 @@ class MemoryProcesses : public Processes {
   LoginName CurrentLoginName() override;
   SystemVersion Version() override;
   bool IsWow64() override;
+  bool SetNormalPriority() override;
   std::string ExecutableFolder() override;
 
   // Programs that can be started: by full path, or by file name alone for any folder. A started
@@ -96,6 +97,9 @@ class MemoryProcesses : public Processes {
   void SetLoginName(std::string_view name) { login_name_ = name; }
   void SetVersion(const SystemVersion& version) { version_ = version; }
   void SetWow64(bool wow64) { wow64_ = wow64; }
+  // Another program lowered the agent; and whether it is back.
+  void LowerPriority() { normal_priority_ = false; }
+  bool normal_priority() const { return normal_priority_; }
   // Another process has this mutex.
   void HoldMutexElsewhere(std::string_view name) { foreign_mutexes_.insert(std::string(name)); }
   void ReleaseMutexElsewhere(std::string_view name);
@@ -125,6 +129,7 @@ class MemoryProcesses : public Processes {
   std::string login_name_ = "User";
   SystemVersion version_{SystemFamily::kNt, 6, 2};
   bool wow64_ = false;
+  bool normal_priority_ = true;
   Names own_mutexes_;
   Names foreign_mutexes_;
   std::optional<std::uint32_t> exit_code_;

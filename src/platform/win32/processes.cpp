@@ -81,6 +81,10 @@ SystemVersion Processes::Version() {
           .minor = info.dwMinorVersion};
 }
 
+bool Processes::SetNormalPriority() {
+  return SetPriorityClass(GetCurrentProcess(), NORMAL_PRIORITY_CLASS) != 0;
+}
+
 bool Processes::IsWow64() {
   BOOL wow64 = FALSE;
   return IsWow64Process(GetCurrentProcess(), &wow64) && wow64;

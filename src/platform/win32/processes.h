@@ -18,6 +18,7 @@ class Processes final : public platform::Processes {
   LoginName CurrentLoginName() override;
   SystemVersion Version() override;
   bool IsWow64() override;
+  bool SetNormalPriority() override;
   std::string ExecutableFolder() override;
 
  private:
