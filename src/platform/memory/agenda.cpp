@@ -4,6 +4,7 @@ namespace platform::memory {
 
 EventId Agenda::Add(Item item) {
   const EventId id = next_id_++;
+  item.id = id;
   order_.emplace(item.due, id);
   items_.emplace(id, std::make_shared<Item>(std::move(item)));
   return id;

@@ -22,6 +22,7 @@ class Agenda {
     std::uint32_t period = 0;  // 0: once
     std::string who;
     std::function<void()> run;
+    EventId id = 0;  // given by Add
   };
 
   EventId Add(Item item);

@@ -56,7 +56,7 @@ bool MemoryFiles::AppendUtf16Line(std::string_view path, std::string_view line) 
   const bool done = !world_.gate.Fails("files.AppendUtf16Line", path) && disk_.MayWrite(path);
   if (done) {
     DiskNode* node = disk_.FindFile(path);
-    if (node == nullptr) node = &disk_.SetContent(path, kByteOrderMark);
+    if (node == nullptr || node->bytes.empty()) node = &disk_.SetContent(path, kByteOrderMark);
     node->bytes += Bytes(WideOf(line)) + Bytes(u"\r\n");
     disk_.Touch(*node);
   }

@@ -13,7 +13,28 @@ std::string Place(std::string_view file) {
   return "C:\\Windows\\" + std::string(file);
 }
 
-// The rest of a text after its blanks, sign and digits do not count; too many digits wrap around.
+// The base that a prefix asks for; `text` is left behind the prefix.
+std::uint32_t TakeBase(std::string_view& text) {
+  constexpr struct {
+    std::string_view prefix;
+    std::uint32_t base;
+  } kBases[] = {{"0x", 16}, {"0o", 8}, {"0b", 2}};
+  for (const auto& [prefix, base] : kBases) {
+    if (!text.starts_with(prefix)) continue;
+    text.remove_prefix(prefix.size());
+    return base;
+  }
+  return 10;
+}
+
+std::uint32_t DigitOf(char character) {
+  if (character >= '0' && character <= '9') return static_cast<std::uint32_t>(character - '0');
+  const char small = FoldCharacter(character);
+  if (small >= 'a' && small <= 'f') return static_cast<std::uint32_t>(small - 'a') + 10;
+  return 16;
+}
+
+// What follows blanks, sign, prefix and digits does not count; too many digits wrap around.
 std::int32_t NumberOf(std::string_view text) {
   text = TrimProfileBlanks(text);
   bool negative = false;
@@ -21,10 +42,12 @@ std::int32_t NumberOf(std::string_view text) {
     negative = text.front() == '-';
     text.remove_prefix(1);
   }
+  const std::uint32_t base = TakeBase(text);
   std::uint32_t number = 0;
   for (const char character : text) {
-    if (character < '0' || character > '9') break;
-    number = number * 10 + static_cast<std::uint32_t>(character - '0');
+    const std::uint32_t digit = DigitOf(character);
+    if (digit >= base) break;
+    number = number * base + digit;
   }
   return static_cast<std::int32_t>(negative ? 0u - number : number);
 }

@@ -1,6 +1,7 @@
 #include "platform/memory/profile_index.h"
 
-#include "platform/memory/text.h"
+#include <algorithm>
+#include <optional>
 
 namespace platform::memory {
 namespace {
@@ -13,9 +14,27 @@ bool EndsLine(char character) {
   return character == '\r' || character == '\n';
 }
 
+char SmallLetter(char character) {
+  return character >= 'A' && character <= 'Z' ? static_cast<char>(character + 0x20) : character;
+}
+
+// Only the letters of ASCII are the same in both cases here.
+bool SameName(std::string_view left, std::string_view right) {
+  return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                    [](char a, char b) { return SmallLetter(a) == SmallLetter(b); });
+}
+
 // What another program's reader, which ends texts at NUL, sees of it.
 std::string_view UpToNul(std::string_view text) {
   return text.substr(0, text.find('\0'));
+}
+
+// The name in a line that begins a section; nothing for any other line.
+std::optional<std::string_view> SectionName(std::string_view line) {
+  if (line.front() != '[') return std::nullopt;
+  const std::size_t bracket = line.rfind(']');
+  if (bracket == std::string_view::npos) return std::nullopt;
+  return TrimProfileBlanks(line.substr(1, bracket - 1));
 }
 
 }  // namespace
@@ -77,28 +96,29 @@ void ProfileIndex::Make(std::string_view text) {
     if (line.empty()) continue;
     const auto begin = static_cast<std::size_t>(line.data() - text.data());
     const std::size_t line_end = begin + line.size();
-    const std::size_t bracket = line[0] == '[' ? line.rfind(']') : std::string_view::npos;
-    if (bracket != std::string_view::npos) {
-      sections_.push_back({{begin + 1, bracket - 1}, keys_.size(), 0, line_end});
+    if (const auto section = SectionName(line)) {
+      sections_.push_back({SpanOf(text, *section), keys_.size(), 0, line_end});
       continue;
     }
     const std::size_t equals = line.find('=');
     const std::string_view name = TrimProfileBlanks(line.substr(0, equals));
-    Key key{{begin, name.size()}, {line_end, 0}, line_end};
-    if (equals != std::string_view::npos) {
-      const std::string_view value = TrimProfileBlanks(line.substr(equals + 1));
-      key.value = {static_cast<std::size_t>(value.data() - text.data()), value.size()};
-    }
-    keys_.push_back(key);
+    const std::string_view value = equals == std::string_view::npos
+                                       ? line.substr(line.size())
+                                       : TrimProfileBlanks(line.substr(equals + 1));
+    keys_.push_back({{begin, name.size()}, SpanOf(text, value), line_end});
     ++sections_.back().keys;
   }
+}
+
+ProfileIndex::Span ProfileIndex::SpanOf(std::string_view text, std::string_view part) {
+  return {static_cast<std::size_t>(part.data() - text.data()), part.size()};
 }
 
 const ProfileIndex::Section* ProfileIndex::FindSection(std::string_view text,
                                                        std::string_view name) const {
   for (const Section& section : sections_) {
     if (section.name.begin != 0 &&
-        EqualIgnoreCase(UpToNul(text.substr(section.name.begin, section.name.length)), name)) {
+        SameName(UpToNul(text.substr(section.name.begin, section.name.length)), name)) {
       return &section;
     }
   }
@@ -109,7 +129,7 @@ const ProfileIndex::Key* ProfileIndex::FindKey(std::string_view text, const Sect
                                                std::string_view name) const {
   for (std::size_t i = 0; i < section.keys; ++i) {
     const Key& key = keys_[section.first_key + i];
-    if (EqualIgnoreCase(UpToNul(text.substr(key.name.begin, key.name.length)), name)) return &key;
+    if (SameName(UpToNul(text.substr(key.name.begin, key.name.length)), name)) return &key;
   }
   return nullptr;
 }

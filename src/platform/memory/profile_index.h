@@ -1,8 +1,9 @@
 // The text of a private-profile file as the system reads it.
 //
 // A line ends at a CR or a LF; blanks (9 to 13, 26 and 32) at both ends do not count, empty lines
-// are nothing. "[name]" up to the last "]" begins a section. In any other line the name stands
-// before the first "=", the value after it, both without the blanks around.
+// are nothing. "[name]" up to the last "]" begins a section; one without a name is never found. In
+// any other line the name stands before the first "=", the value after it. Blanks around names and
+// values do not count; names are compared without regard to the case of ASCII letters.
 #pragma once
 
 #include <cstddef>
@@ -44,6 +45,7 @@ class ProfileIndex {
     std::size_t header_end = 0;
   };
 
+  static Span SpanOf(std::string_view text, std::string_view part);
   void Make(std::string_view text);
   const Section* FindSection(std::string_view text, std::string_view name) const;
   const Key* FindKey(std::string_view text, const Section& section, std::string_view name) const;

@@ -54,7 +54,8 @@ void Timeline::Pump() {
   if (!agent_acts() || !Pumps()) return;
   EnterPump();
   bool idle = true;
-  while (Pumps() && RunAgentStep()) idle = false;
+  Ticked ticked;
+  while (Pumps() && RunAgentStep(&ticked)) idle = false;
   if (idle && ++idle_pumps_ > kBusyPumps) {
     ++now_;
     CountStep();
@@ -67,7 +68,7 @@ void Timeline::RunUntil(const std::function<bool()>& done) {
   ++depth_;
   EnterPump();
   while (Pumps() && !done()) {
-    if (RunAgentStep()) continue;
+    if (RunAgentStep(nullptr)) continue;
     const std::optional<std::uint64_t> next = NextDue(true);
     if (!next) {
       RunAway("waits for a message that nobody sends");
@@ -114,7 +115,7 @@ void Timeline::Run(std::uint64_t milliseconds) {
   EnterPump();
   const bool ended_before = ended_;
   while (!ran_away_ && ended_ == ended_before) {
-    if (RunAgentStep()) continue;
+    if (RunAgentStep(nullptr)) continue;
     const std::optional<std::uint64_t> next = NextDue(Pumps());
     if (!next || *next > end) break;
     now_ = std::max(now_, *next);
@@ -155,11 +156,15 @@ void Timeline::RunWorld() {
 
 // The world first, then one message or, without one, one timer. False when the agent had nothing to
 // do.
-bool Timeline::RunAgentStep() {
+bool Timeline::RunAgentStep(Ticked* ticked) {
   RunWorld();
   if (!Pumps()) return false;
   auto item = messages_.TakeDue(now_);
-  if (!item) item = timers_.TakeDue(now_);
+  if (!item) {
+    item = timers_.TakeDue(now_);
+    // A tick slower than its period is due again at once: with it one pump would never end.
+    if (item && ticked != nullptr && !ticked->insert(item->id).second) return true;
+  }
   if (!item) return false;
   idle_pumps_ = 0;
   if (!CountStep()) return false;

@@ -11,6 +11,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -91,7 +92,8 @@ class Timeline {
  private:
   bool Pumps() const { return !quit_ && !ended_ && !ran_away_; }
   void RunWorld();
-  bool RunAgentStep();
+  using Ticked = std::set<EventId>;
+  bool RunAgentStep(Ticked* ticked);
   void EnterPump();
   bool CountStep();
   void RunAway(std::string_view why);
