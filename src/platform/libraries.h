@@ -23,6 +23,11 @@ class Libraries {
   // library or function.
   virtual std::optional<std::int32_t> Call(std::string_view path, std::string_view function,
                                            std::int32_t argument) = 0;
+
+  // Calls an exported function that takes the address of a NUL-closed text, in a buffer of 260
+  // bytes that it may overwrite. What it gives back is not looked at. False without the library or
+  // function, or when the text does not fit.
+  virtual bool CallWithText(std::string_view, std::string_view, std::string_view) { return false; }
 };
 
 }  // namespace platform

@@ -29,6 +29,20 @@ struct StartResult {
   std::uint32_t error = 0;  // the system's last error, 0 on success
 };
 
+// Folders that the system knows by their meaning.
+enum class KnownFolder {
+  kDesktop,
+  kDocuments,
+  kMusic,
+  kPictures,
+  kVideos,
+  kFavourites,
+  kCommonFavourites,
+  kInternetCache,
+  kCookies,
+  kTemporary,
+};
+
 class Shell {
  public:
   virtual ~Shell() = default;
@@ -61,6 +75,11 @@ class Shell {
 
   // Takes the icon out. False when it was not in.
   virtual bool RemoveIcon() = 0;
+
+  // Full path of a folder of the logged-on user (kCommonFavourites: of all users), in its long form
+  // and without a final backslash. "" when the system has no such folder; the folder itself need
+  // not be there.
+  virtual std::string FindFolder(KnownFolder) { return {}; }
 
   // The system's own box with a stop icon and "OK", for failures of the program itself. Waits for
   // the answer.

@@ -5,11 +5,14 @@
 // width is part of the behaviour.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "platform/processes.h"
 #include "platform/shell.h"
+#include "shared/schedule_record.h"
 
 namespace shared {
 
@@ -68,7 +71,6 @@ struct AgentState {
   // Places and the user.
   std::string InstallFolder;  // without a final backslash
   std::string CurrentUser;    // empty when nobody is logged in
-  std::string ScheduleFilePath;
 
   // Server pair in use and the deployment's defaults.
   std::string ServerAddress;
@@ -84,6 +86,19 @@ struct AgentState {
   platform::ProcessHandle ClientProcess = platform::kNoProcess;  // the last started client
   std::string CommandArgument;            // the last argument with a payload in brackets
   std::int16_t RandomRenewConfirmed = 0;  // -1: the user wants new random digits
+
+  // The user's locale, read at start and by each window that shows dates.
+  std::string ShortDateFormat;  // for instance "M/d/yyyy"; "d" in front means day first
+  std::string TimeFormat;       // for instance "h:mm:ss tt"
+
+  // The schedule: the file that was loaded last, its records and what the wizard edits. Only a copy
+  // of the file at the last load.
+  std::string ScheduleFilePath;
+  std::vector<ScheduleRecord> ScheduleTable;  // ScheduleCount records and a spare one
+  std::size_t ScheduleCount = 0;
+  std::size_t CurrentRecordIndex = 0;  // the element of the table that is edited
+  ScheduleRecord ScheduleDraft;        // values of the wizard before they go to the table
+  std::int16_t ScheduleJobType = 0;    // 1 and 4 default set, 2 SQL, 5 system state, 6 Exchange
 
   // The tick.
   std::int16_t JobState = 0;  // job code of this tick

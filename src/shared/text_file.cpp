@@ -1,9 +1,7 @@
 #include "shared/text_file.h"
 
 namespace shared {
-namespace {
 
-// Cuts the first line with its end off `rest` and returns it without the end.
 std::string_view TakeLine(std::string_view& rest) {
   const std::size_t end = rest.find_first_of("\r\n");
   const std::string_view line = rest.substr(0, end);
@@ -15,8 +13,6 @@ std::string_view TakeLine(std::string_view& rest) {
   rest.remove_prefix(end + (pair ? 2 : 1));
   return line;
 }
-
-}  // namespace
 
 std::optional<std::string_view> FindLine(std::string_view text, std::size_t number) {
   for (std::size_t passed = 0; passed < number && !text.empty(); ++passed) TakeLine(text);

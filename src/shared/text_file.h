@@ -15,6 +15,10 @@ namespace shared {
 
 inline constexpr std::size_t kTextFileLimit = 65536;
 
+// Cuts the first line with its end off `rest` and returns it without the end. An empty `rest` gives
+// "": callers that must tell an empty line from none look at `rest` first.
+std::string_view TakeLine(std::string_view& rest);
+
 // The line with that number, the first being 0; nothing when there are fewer. The end of the last
 // line starts no further one.
 std::optional<std::string_view> FindLine(std::string_view text, std::size_t number);
