@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "platform/win32/file_attributes.h"
 #include "platform/win32/scoped.h"
 
 namespace platform::win32 {
@@ -45,10 +46,7 @@ bool FileReplacement::FillFrom(std::string_view file) {
 
 bool FileReplacement::PutInPlace() {
   if (path_.empty()) return false;
-  // Asked first: not every system's rename spares a read-only file.
-  const DWORD attributes = GetFileAttributesA(target_.c_str());
-  const DWORD forbidden = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY;
-  if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & forbidden) != 0) return false;
+  if (IsReadOnly(target_) || IsFolder(target_)) return false;
   if (!MoveFileExA(path_.c_str(), target_.c_str(),
                    MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
     return false;

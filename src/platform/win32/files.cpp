@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "platform/win32/file_attributes.h"
 #include "platform/win32/file_replacement.h"
 #include "platform/win32/locale.h"
 #include "platform/win32/scoped.h"
@@ -12,16 +13,6 @@ namespace platform::win32 {
 namespace {
 
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-
-// Nothing for a missing file or a folder.
-std::optional<WIN32_FILE_ATTRIBUTE_DATA> AttributesOfFile(std::string_view path) {
-  WIN32_FILE_ATTRIBUTE_DATA data;
-  if (!GetFileAttributesExA(std::string(path).c_str(), GetFileExInfoStandard, &data)) {
-    return std::nullopt;
-  }
-  if ((data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return std::nullopt;
-  return data;
-}
 
 std::uint64_t SizeOfOpen(const ScopedFile& file) {
   LARGE_INTEGER size;
@@ -62,7 +53,7 @@ std::string Utf16LineBytes(std::string_view line, bool with_mark) {
 }  // namespace
 
 bool Files::Exists(std::string_view path) {
-  return AttributesOfFile(path).has_value();
+  return AttributesOfFile(std::string(path)).has_value();
 }
 
 std::optional<std::string> Files::Read(std::string_view path, std::size_t limit) {
@@ -78,8 +69,10 @@ bool Files::Replace(std::string_view path, std::string_view bytes) {
 }
 
 bool Files::AppendUtf16Line(std::string_view path, std::string_view line) {
+  const std::string name(path);
+  if (IsReadOnly(name)) return false;
   // Readers may look on; a second writer would break lines apart.
-  const ScopedFile file(CreateFileA(std::string(path).c_str(), GENERIC_WRITE,
+  const ScopedFile file(CreateFileA(name.c_str(), GENERIC_WRITE,
                                     FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr, OPEN_ALWAYS,
                                     FILE_ATTRIBUTE_NORMAL, nullptr));
   if (!file) return false;
@@ -92,13 +85,14 @@ bool Files::AppendUtf16Line(std::string_view path, std::string_view line) {
 }
 
 std::optional<std::uint64_t> Files::Size(std::string_view path) {
-  const auto data = AttributesOfFile(path);
+  const auto data = AttributesOfFile(std::string(path));
   if (!data) return std::nullopt;
   return static_cast<std::uint64_t>(data->nFileSizeHigh) << 32 | data->nFileSizeLow;
 }
 
 bool Files::Remove(std::string_view path) {
-  return DeleteFileA(std::string(path).c_str()) != FALSE;
+  const std::string name(path);
+  return !IsReadOnly(name) && DeleteFileA(name.c_str());
 }
 
 bool Files::Copy(std::string_view from, std::string_view to) {

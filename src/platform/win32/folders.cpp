@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "platform/win32/file_attributes.h"
 #include "platform/win32/files.h"
 #include "platform/win32/last_error.h"
 #include "platform/win32/scoped.h"
@@ -50,7 +51,7 @@ void DeleteTree(const std::string& folder) {
       DeleteTree(path);
     } else if ((data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
       RemoveDirectoryA(path.c_str());
-    } else {
+    } else if (!IsReadOnly(path)) {
       DeleteFileA(path.c_str());
     }
   });
@@ -60,8 +61,7 @@ void DeleteTree(const std::string& folder) {
 }  // namespace
 
 bool Files::FolderExists(std::string_view path) {
-  const DWORD attributes = GetFileAttributesA(std::string(path).c_str());
-  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+  return IsFolder(std::string(path));
 }
 
 bool Files::MakeFolder(std::string_view path) {

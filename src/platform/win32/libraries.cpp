@@ -1,5 +1,6 @@
 #include "platform/win32/libraries.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace platform::win32 {
@@ -7,13 +8,18 @@ namespace {
 
 using NumberFunction = std::int32_t(WINAPI*)(std::int32_t);
 
+// A bare name would find a library that some other part of the process has loaded already.
+bool IsFullPath(std::string_view path) {
+  return path.starts_with("\\\\") || path.substr(std::min<std::size_t>(path.size(), 1), 2) == ":\\";
+}
+
 }  // namespace
 
 HMODULE Libraries::Load(std::string_view path) {
   if (const auto found = loaded_.find(path); found != loaded_.end()) return found->second.get();
+  if (!IsFullPath(path)) return nullptr;
   std::string name(path);
-  // With these flags a path that is not full is refused, and what the library itself needs comes
-  // from its own folder or the system's.
+  // What the library itself needs comes from its own folder or the system's.
   ScopedLibrary library(LoadLibraryExA(
       name.c_str(), nullptr, LOAD_LIBRARY_SEARCH_DLL_LOAD_DIR | LOAD_LIBRARY_SEARCH_SYSTEM32));
   if (!library) return nullptr;

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include "platform/win32/file_attributes.h"
+
 namespace platform::win32 {
 
 std::string ProfileFiles::ReadText(std::string_view file, std::string_view section,
@@ -22,8 +24,10 @@ std::int32_t ProfileFiles::ReadInt(std::string_view file, std::string_view secti
 
 bool ProfileFiles::WriteText(std::string_view file, std::string_view section, std::string_view key,
                              std::string_view value) {
+  const std::string name(file);
+  if (IsReadOnly(name)) return false;
   return WritePrivateProfileStringA(std::string(section).c_str(), std::string(key).c_str(),
-                                    std::string(value).c_str(), std::string(file).c_str()) != FALSE;
+                                    std::string(value).c_str(), name.c_str()) != FALSE;
 }
 
 }  // namespace platform::win32
