@@ -4,6 +4,7 @@
 // function is a silent failure.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -24,10 +25,12 @@ class Libraries {
   virtual std::optional<std::int32_t> Call(std::string_view path, std::string_view function,
                                            std::int32_t argument) = 0;
 
-  // Calls an exported function that takes the address of a NUL-closed text, in a buffer of 260
-  // bytes that it may overwrite. What it gives back is not looked at. False without the library or
-  // function, or when the text does not fit.
-  virtual bool CallWithText(std::string_view, std::string_view, std::string_view) { return false; }
+  // Calls an exported function that takes the address of a NUL-closed text, in a buffer of
+  // kTextBuffer bytes that it may overwrite. What it gives back is not looked at. False without the
+  // library or function, or when the text does not fit.
+  virtual bool CallWithText(std::string_view path, std::string_view function,
+                            std::string_view text) = 0;
+  static constexpr std::size_t kTextBuffer = 260;
 };
 
 }  // namespace platform

@@ -76,10 +76,10 @@ class Shell {
   // Takes the icon out. False when it was not in.
   virtual bool RemoveIcon() = 0;
 
-  // Full path of a folder of the logged-on user (kCommonFavourites: of all users), in its long form
-  // and without a final backslash. "" when the system has no such folder; the folder itself need
-  // not be there.
-  virtual std::string FindFolder(KnownFolder) { return {}; }
+  // Full path of a folder of the logged-on user (kCommonFavourites: of all users), without a final
+  // backslash; kTemporary in its long form. "" when the system has no such folder; the folder
+  // itself need not be there.
+  virtual std::string FindFolder(KnownFolder which) = 0;
 
   // The system's own box with a stop icon and "OK", for failures of the program itself. Waits for
   // the answer.

@@ -33,11 +33,30 @@ std::string CommandLine(std::string_view file, std::string_view arguments) {
   return std::string(file) + (arguments.empty() ? "" : " " + std::string(arguments));
 }
 
+std::map<KnownFolder, std::string> StandardFolders() {
+  const std::string home = "C:\\Users\\user\\";
+  return {
+      {KnownFolder::kDesktop, home + "Desktop"},
+      {KnownFolder::kDocuments, home + "Documents"},
+      {KnownFolder::kMusic, home + "Music"},
+      {KnownFolder::kPictures, home + "Pictures"},
+      {KnownFolder::kVideos, home + "Videos"},
+      {KnownFolder::kFavourites, home + "Favorites"},
+      {KnownFolder::kCommonFavourites, "C:\\Users\\Public\\Favorites"},
+      {KnownFolder::kInternetCache, home + "AppData\\Local\\INetCache"},
+      {KnownFolder::kCookies, home + "AppData\\Local\\INetCookies"},
+      {KnownFolder::kTemporary, home + "AppData\\Local\\Temp"},
+  };
+}
+
 }  // namespace
 
 MemoryShell::MemoryShell(World& world, Disk& disk, MemoryProcesses& processes)
-    : world_(world), disk_(disk), processes_(processes), associated_{"txt", "htm", "html", "chm",
-                                                                     "hlp", "ini", "log",  "url"} {
+    : world_(world),
+      disk_(disk),
+      processes_(processes),
+      folders_(StandardFolders()),
+      associated_{"txt", "htm", "html", "chm", "hlp", "ini", "log", "url"} {
   processes_.WhenEnded([this](ProcessId id) {
     if (id == processes_.own_id()) icon_.reset();
   });
@@ -118,6 +137,11 @@ bool MemoryShell::RemoveIcon() {
   const bool done = !world_.gate.Fails("shell.RemoveIcon") && icon_.has_value();
   if (done) icon_.reset();
   return NoteIcon(done, "remove");
+}
+
+std::string MemoryShell::FindFolder(KnownFolder which) {
+  if (world_.gate.Fails("shell.FindFolder")) return {};
+  return folders_[which];
 }
 
 void MemoryShell::ShowStopBox(std::string_view text, std::string_view caption) {

@@ -43,8 +43,11 @@ class MemoryShell : public Shell {
   bool SetIconPicture(PictureId picture) override;
   bool SetIconTip(std::string_view tip) override;
   bool RemoveIcon() override;
+  std::string FindFolder(KnownFolder which) override;
   void ShowStopBox(std::string_view text, std::string_view caption) override;
 
+  // Where a known folder lies; "": the system has none.
+  void SetFolder(KnownFolder which, std::string_view path) { folders_[which] = path; }
   // The icon as people see it; nothing when it is not in the notification area.
   const std::optional<Icon>& icon() const { return icon_; }
   // Without the shell (not there yet at logon) every icon call fails and icons are gone.
@@ -76,6 +79,7 @@ class MemoryShell : public Shell {
   bool refuses_elevation_ = false;
   std::optional<Icon> icon_;
   std::map<std::string, PictureId, IgnoreCaseLess> pictures_;
+  std::map<KnownFolder, std::string> folders_;
   std::set<std::string, IgnoreCaseLess> associated_;
   std::vector<std::string> opened_;
 };

@@ -162,12 +162,31 @@ std::optional<std::int32_t> MemoryLibraries::Call(std::string_view path, std::st
   return found->second(argument);
 }
 
+bool MemoryLibraries::CallWithText(std::string_view path, std::string_view function,
+                                   std::string_view text) {
+  if (world_.gate.Fails("libraries.CallWithText", function)) return false;
+  const Library* library = Load(path);
+  if (library == nullptr || text.size() >= kTextBuffer) return false;
+  const auto found = library->text_functions.find(function);
+  if (found == library->text_functions.end()) return false;
+  world_.Note("library", "call " + std::string(NameOfPath(path)) + "." + std::string(function) +
+                             "(" + std::string(text) + ")");
+  // What the library does is not the agent's doing: it passes no gate.
+  world_.timeline.ActAs(NameOfPath(path), [&] { found->second(text); });
+  return true;
+}
+
 void MemoryLibraries::PutString(std::string_view path, std::uint32_t id, std::string_view text) {
   Make(path).strings.insert_or_assign(id, std::string(text));
 }
 
 void MemoryLibraries::PutFunction(std::string_view path, std::string_view name, Function function) {
   Make(path).functions.insert_or_assign(std::string(name), std::move(function));
+}
+
+void MemoryLibraries::PutTextFunction(std::string_view path, std::string_view name,
+                                      TextFunction function) {
+  Make(path).text_functions.insert_or_assign(std::string(name), std::move(function));
 }
 
 const MemoryLibraries::Library* MemoryLibraries::Load(std::string_view path) {

@@ -111,21 +111,26 @@ class MemoryLocale : public Locale {
 class MemoryLibraries : public Libraries {
  public:
   using Function = std::function<std::int32_t(std::int32_t)>;
+  using TextFunction = std::function<void(std::string_view)>;
 
   MemoryLibraries(World& world, Disk& disk) : world_(world), disk_(disk) {}
 
   std::string ReadString(std::string_view path, std::uint32_t id) override;
   std::optional<std::int32_t> Call(std::string_view path, std::string_view function,
                                    std::int32_t argument) override;
+  bool CallWithText(std::string_view path, std::string_view function,
+                    std::string_view text) override;
 
-  // Both make the file where it is missing; a library whose file is deleted cannot be loaded.
+  // They make the file where it is missing; a library whose file is deleted cannot be loaded.
   void PutString(std::string_view path, std::uint32_t id, std::string_view text);
   void PutFunction(std::string_view path, std::string_view name, Function function);
+  void PutTextFunction(std::string_view path, std::string_view name, TextFunction function);
 
  private:
   struct Library {
     std::map<std::uint32_t, std::string> strings;
     std::map<std::string, Function, std::less<>> functions;
+    std::map<std::string, TextFunction, std::less<>> text_functions;
   };
   const Library* Load(std::string_view path);
   Library& Make(std::string_view path);

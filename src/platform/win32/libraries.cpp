@@ -7,6 +7,7 @@ namespace platform::win32 {
 namespace {
 
 using NumberFunction = std::int32_t(WINAPI*)(std::int32_t);
+using TextFunction = std::int32_t(WINAPI*)(char*);
 
 // A bare name would find a library that some other part of the process has loaded already.
 bool IsFullPath(std::string_view path) {
@@ -38,11 +39,25 @@ std::string Libraries::ReadString(std::string_view path, std::uint32_t id) {
 
 std::optional<std::int32_t> Libraries::Call(std::string_view path, std::string_view function,
                                             std::int32_t argument) {
-  const HMODULE library = Load(path);
-  if (library == nullptr) return std::nullopt;
-  const FARPROC address = GetProcAddress(library, std::string(function).c_str());
+  void* const address = Find(path, function);
   if (address == nullptr) return std::nullopt;
-  return reinterpret_cast<NumberFunction>(reinterpret_cast<void*>(address))(argument);
+  return reinterpret_cast<NumberFunction>(address)(argument);
+}
+
+bool Libraries::CallWithText(std::string_view path, std::string_view function,
+                             std::string_view text) {
+  void* const address = Find(path, function);
+  char buffer[kTextBuffer] = {};
+  if (address == nullptr || text.size() >= sizeof buffer) return false;
+  text.copy(buffer, text.size());
+  reinterpret_cast<TextFunction>(address)(buffer);
+  return true;
+}
+
+void* Libraries::Find(std::string_view path, std::string_view function) {
+  const HMODULE library = Load(path);
+  if (library == nullptr) return nullptr;
+  return reinterpret_cast<void*>(GetProcAddress(library, std::string(function).c_str()));
 }
 
 }  // namespace platform::win32

@@ -34,6 +34,7 @@ class Shell final : public platform::Shell {
   bool SetIconPicture(PictureId picture) override;
   bool SetIconTip(std::string_view tip) override;
   bool RemoveIcon() override;
+  std::string FindFolder(KnownFolder which) override;
   void ShowStopBox(std::string_view text, std::string_view caption) override;
 
  private:
