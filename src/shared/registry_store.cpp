@@ -33,7 +33,7 @@ std::string OldRootKey(const AgentState& state) {
 }
 
 std::string CleanText(const RegistryValue& value) {
-  return std::string(StripNulls(Trim(value.bytes)));
+  return std::string(Trim(StripNulls(value.bytes)));
 }
 
 bool Succeeded(const RegistryResult& result) {
