@@ -7,6 +7,7 @@
 #include "agent/start_up.h"
 #include "forms/form_host.h"
 #include "platform/platform.h"
+#include "schedule/schedule_texts.h"
 #include "shared/agent_state.h"
 #include "shared/texts.h"
 
@@ -30,6 +31,7 @@ class Agent {
   shared::AgentState state_;
   shared::Texts texts_;
   SharedTexts shared_texts_;
+  schedule::ScheduleTexts schedule_;
   FormMessages messages_;
   frmTVWinService form_;
   StartUp start_up_;

@@ -9,17 +9,19 @@ constexpr forms::FormDesign kDesign = {.name = "frmTVWinService", .caption = "fr
 
 frmTVWinService::frmTVWinService(forms::FormHost& host, platform::Platform& machine,
                                  shared::AgentState& state, shared::Texts& texts,
-                                 const SharedTexts& shared_texts, shared::Messages& messages)
+                                 const SharedTexts& shared_texts, status::ScheduleTexts& schedule,
+                                 shared::Messages& messages)
     : Form(host, kDesign),
       machine_(machine),
       state_(state),
       texts_(texts),
       icon_(machine.shell, state),
+      tip_(machine, state, texts, shared_texts, schedule, icon_),
       menu_(machine, state, texts, shared_texts),
-      commands_(machine, state, texts, shared_texts, messages, icon_, menu_, *this, CDPTimer,
+      commands_(machine, state, texts, shared_texts, messages, icon_, tip_, menu_, *this, CDPTimer,
                 WebMTimer),
       icon_events_(machine, state, texts, messages, menu_, *this),
-      window_(machine, state, menu_, icon_events_, commands_,
+      window_(machine, state, menu_, icon_events_, tip_, commands_,
               [this] {
                 RemoveTrayIcon();
                 AddTrayIcon();

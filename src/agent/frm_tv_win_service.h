@@ -12,6 +12,7 @@
 #include "agent/tray_commands.h"
 #include "agent/tray_icon.h"
 #include "agent/tray_menu.h"
+#include "agent/tray_tip.h"
 #include "agent/tray_window.h"
 #include "forms/form.h"
 #include "platform/platform.h"
@@ -25,7 +26,7 @@ class frmTVWinService : public forms::Form {
  public:
   frmTVWinService(forms::FormHost& host, platform::Platform& machine, shared::AgentState& state,
                   shared::Texts& texts, const SharedTexts& shared_texts,
-                  shared::Messages& messages);
+                  status::ScheduleTexts& schedule, shared::Messages& messages);
 
   // Hides the window, with `MnuOpen` enabled.
   void MinimiseToTray();
@@ -60,6 +61,7 @@ class frmTVWinService : public forms::Form {
   shared::AgentState& state_;
   shared::Texts& texts_;
   TrayIcon icon_;
+  TrayTip tip_;
   TrayMenu menu_;
   TrayCommands commands_;
   IconEvents icon_events_;

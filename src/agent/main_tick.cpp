@@ -19,6 +19,16 @@ constexpr std::uint32_t kContinuousStartPause = 1000;
 
 }  // namespace
 
+std::optional<std::int16_t> ContinuousJobState(std::int16_t code) {
+  if (code < 1 || code > kContinuousLast - kContinuousBase) return std::nullopt;
+  return static_cast<std::int16_t>(kContinuousBase + code);
+}
+
+bool IsContinuousFailure(std::int16_t job_state) {
+  return job_state > kContinuousRunning && job_state <= kContinuousLast &&
+         job_state != kContinuousCancelled && job_state != kContinuousQuota;
+}
+
 MainTick::MainTick(platform::Platform& machine, shared::AgentState& state, TrayIcon& icon,
                    shared::AgentCommands& commands)
     : machine_(machine),
@@ -150,16 +160,15 @@ void MainTick::ReadContinuousCode() {
   if (code == 0) {
     state_.CdpRunning = false;
     state_.CdpIdle = true;
-  } else if (code == 1) {
-    state_.JobState = kContinuousRunning;
-    if (state_.CdpRunning) return;
-    state_.CdpRunning = true;
-    state_.CdpIdle = false;
-    Pause(kContinuousStartPause);
-  } else if (code > 1 && code <= kContinuousLast - kContinuousBase) {
-    state_.JobState = static_cast<std::int16_t>(kContinuousBase + code);
-    state_.CdpRunning = false;
   }
+  const auto job_state = ContinuousJobState(code);
+  if (!job_state) return;
+  state_.JobState = *job_state;
+  const bool was_running = state_.CdpRunning;
+  state_.CdpRunning = state_.JobState == kContinuousRunning;
+  if (!state_.CdpRunning || was_running) return;
+  state_.CdpIdle = false;
+  Pause(kContinuousStartPause);
 }
 
 void MainTick::ShowContinuousIcon() {
@@ -168,10 +177,12 @@ void MainTick::ShowContinuousIcon() {
               StatePicture::kContinuousBackup2);
   } else if (state_.JobState == kContinuousQuota) {
     if (!channel_.IsQuotaMarked()) channel_.MarkQuota();
-  } else if (state_.JobState > kContinuousRunning && state_.JobState <= kContinuousLast) {
+  } else if (state_.JobState == kContinuousCancelled) {
     ShowStateIcon(StatePicture::kFailed);
-    // A failure has two phases with one picture; a cancelled run has none.
-    if (state_.JobState != kContinuousCancelled) state_.BlinkPhase = !state_.BlinkPhase;
+  } else if (IsContinuousFailure(state_.JobState)) {
+    // Both phases have the same picture.
+    ShowStateIcon(StatePicture::kFailed);
+    state_.BlinkPhase = !state_.BlinkPhase;
   }
 }
 

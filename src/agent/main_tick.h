@@ -10,6 +10,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "agent/tray_icon.h"
 #include "platform/platform.h"
@@ -32,6 +33,13 @@ inline constexpr std::int16_t kContinuousRunning = 11;
 inline constexpr std::int16_t kContinuousCancelled = 14;
 inline constexpr std::int16_t kContinuousQuota = 16;
 inline constexpr std::int16_t kContinuousLast = 20;
+
+// JobState for a code of continuous backup: 1 to 10 have one.
+std::optional<std::int16_t> ContinuousJobState(std::int16_t code);
+
+// True for the codes of continuous backup that show a failure: all but running, cancelled by the
+// user and an exceeded quota.
+bool IsContinuousFailure(std::int16_t job_state);
 
 class MainTick {
  public:

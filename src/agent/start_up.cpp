@@ -5,6 +5,7 @@
 #include "agent/executable_names.h"
 #include "agent/partner_edition.h"
 #include "agent/product_config.h"
+#include "schedule/default_schedule.h"
 #include "shared/file_names.h"
 #include "shared/keys.h"
 #include "shared/paths.h"
@@ -57,6 +58,7 @@ bool StartUp::Main() {
   // 10. No look follows: the line stands alone.
   trace.WriteInformation("checking if " + state_.executables.background + " is running");
   // 11. The default files.
+  schedule::ScheduleCreateFiles(machine_, state_).Form_Load();
   trace.WriteInformation("After creating default files...");
   // 12. The user.
   trace.WriteInformation("Default user: " + profile.RefreshCurrentUser());

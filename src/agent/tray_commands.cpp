@@ -24,11 +24,12 @@ constexpr std::string_view kPartnerTitle = "Tolvex Professional";
 
 TrayCommands::TrayCommands(platform::Platform& machine, shared::AgentState& state,
                            shared::Texts& texts, const SharedTexts& shared_texts,
-                           shared::Messages& messages, TrayIcon& icon, TrayMenu& menu,
+                           shared::Messages& messages, TrayIcon& icon, TrayTip& tip, TrayMenu& menu,
                            forms::Form& form, forms::Timer& cdp_timer, forms::Timer& web_timer)
     : machine_(machine),
       state_(state),
       icon_(icon),
+      tip_(tip),
       menu_(menu),
       alert_(form.Host(), {.open_options = [this] { MnuOptionsClick(); },
                            .open_error_report = [this] { OpenErrorReport(); },

@@ -13,6 +13,7 @@
 #include "agent/shared_texts.h"
 #include "agent/tray_icon.h"
 #include "agent/tray_menu.h"
+#include "agent/tray_tip.h"
 #include "agent/web_management.h"
 #include "forms/form.h"
 #include "forms/frm_welcome.h"
@@ -27,10 +28,11 @@ class TrayCommands : public shared::AgentCommands {
   // `form` is the hidden main form, the timers are its one-shot continuations of the two switches.
   TrayCommands(platform::Platform& machine, shared::AgentState& state, shared::Texts& texts,
                const SharedTexts& shared_texts, shared::Messages& messages, TrayIcon& icon,
-               TrayMenu& menu, forms::Form& form, forms::Timer& cdp_timer, forms::Timer& web_timer);
+               TrayTip& tip, TrayMenu& menu, forms::Form& form, forms::Timer& cdp_timer,
+               forms::Timer& web_timer);
 
   void SetTrayIcon(std::string_view tip) override;
-  std::string BuildTrayTip() override { return {}; }
+  std::string BuildTrayTip() override { return tip_.BuildTrayTip(); }
   void DisableStatusEntry() override;
   void MnuOptionsClick() override;
   void StopClick() override;
@@ -61,6 +63,7 @@ class TrayCommands : public shared::AgentCommands {
   platform::Platform& machine_;
   shared::AgentState& state_;
   TrayIcon& icon_;
+  TrayTip& tip_;
   TrayMenu& menu_;
   forms::frmWelcome alert_;
   Session session_;

@@ -24,12 +24,13 @@ constexpr std::uintptr_t kSuspend = 4;
 }  // namespace
 
 TrayWindow::TrayWindow(platform::Platform& machine, shared::AgentState& state, TrayMenu& menu,
-                       IconEvents& icon_events, shared::AgentCommands& commands,
+                       IconEvents& icon_events, TrayTip& tip, shared::AgentCommands& commands,
                        std::function<void()> shell_restarted)
     : machine_(machine),
       state_(state),
       menu_(menu),
       icon_events_(icon_events),
+      tip_(tip),
       commands_(commands),
       shell_restarted_(std::move(shell_restarted)) {}
 
@@ -68,6 +69,7 @@ MessageAnswer TrayWindow::TrayWindowProc(std::uint32_t message, std::uintptr_t w
 }
 
 void TrayWindow::Form_MouseMove(std::uint32_t mouse_message) {
+  tip_.UpdateTrayTip();
   if (mouse_message == kLeftDoubleClick) icon_events_.DoubleClick();
   if (mouse_message == kRightButtonUp) icon_events_.RightClick();
 }

@@ -10,6 +10,7 @@
 
 #include "agent/icon_events.h"
 #include "agent/tray_menu.h"
+#include "agent/tray_tip.h"
 #include "platform/platform.h"
 #include "shared/agent_commands.h"
 #include "shared/agent_state.h"
@@ -23,7 +24,7 @@ class TrayWindow {
  public:
   // `shell_restarted` takes the icon out and puts it in again.
   TrayWindow(platform::Platform& machine, shared::AgentState& state, TrayMenu& menu,
-             IconEvents& icon_events, shared::AgentCommands& commands,
+             IconEvents& icon_events, TrayTip& tip, shared::AgentCommands& commands,
              std::function<void()> shell_restarted);
 
   MessageAnswer TrayWindowProc(std::uint32_t message, std::uintptr_t wparam, std::intptr_t lparam);
@@ -42,6 +43,7 @@ class TrayWindow {
   shared::AgentState& state_;
   TrayMenu& menu_;
   IconEvents& icon_events_;
+  TrayTip& tip_;
   shared::AgentCommands& commands_;
   std::function<void()> shell_restarted_;
   std::uint32_t taskbar_created_ = 0;    // numbers of the messages that programs agree on by name;
