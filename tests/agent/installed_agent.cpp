@@ -46,6 +46,7 @@ InstalledAgent::InstalledAgent()
   machine.files().PutFolder(UserPath(""));
   SetShifted(keys::kAuthenticated, "1");
   SetShifted(keys::kScheduleDisable, "FALSE");
+  SetShifted(keys::kFirstUser, "FALSE");
   machine.registry().PutText(Hive::kCurrentUser, kRegistryRoot, shared::registry::kInstalledFirst,
                              "1");
   machine.registry().PutText(Hive::kCurrentUser, kApplication, shared::registry::kVersion, "5.0");
@@ -76,6 +77,7 @@ void InstalledAgent::MakePartner(bool with_picture) {
   machine.files().Put(Path("images\\Config.txt"), "Acme\r\nAcme Two\r\nacme.ico\r\n");
   if (with_picture) machine.files().PutPicture(Path("Images\\acme.ico"));
   machine.files().PutFolder(UserPath(""));
+  SetShifted(keys::kFirstUser, "FALSE");
 }
 
 void InstalledAgent::PutConfigValue(std::string_view section, std::string_view key,
