@@ -33,7 +33,16 @@ use_wine_prefix() {
   fi
 }
 
-boot_wine_prefix() { wineboot -i >build/logs/wineboot.log 2>&1 && wineserver -w; }
+# Every program of the prefix starts on the desktop "shell", which has a task bar with a
+# notification area.
+boot_wine_prefix() {
+  {
+    wineboot -i &&
+      wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d shell /f &&
+      wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v shell /d 1024x768 /f &&
+      wineserver -w
+  } >build/logs/wineboot.log 2>&1
+}
 
 stop_screen() {
   if [ -n "${WINEPREFIX:-}" ] && [ -d "${WINEPREFIX:-}" ]; then

@@ -4,7 +4,7 @@
 declare -A packages=(
   [build]="g++ cmake ninja-build ccache g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix python3 python3-pil"
   [test]="libgtest-dev googletest"
-  [screen]="wine wine64 xvfb xdotool imagemagick x11-utils fonts-dejavu-core fonts-liberation procps"
+  [screen]="wine wine64 xvfb xdotool imagemagick x11-utils fonts-wine fonts-liberation"
   [bench]="libbenchmark-dev"
   [fuzz]="clang libclang-rt-14-dev"
   [lint]="clang-format clang-tidy"

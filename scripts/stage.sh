@@ -10,7 +10,8 @@ lab_programs=(
   "lab_background SorvaneEBackground.exe"
   "lab_main_program SorvaneEClassic.exe"
   "lab_recorder SorvaneEBckupsetSize.exe SorvaneEContextMenu.exe SorvaneELaunchDrive.exe"
-  "lab_recorder SorvaneEReg2ini.exe SorvanePlugin.exe"
+  "lab_recorder SorvaneEReg2ini.exe"
+  "lab_web_plugin SorvanePlugin.exe"
 )
 lab_batch_files=(InstallSorvaneEService.bat StartSorvaneEService.bat StopSorvaneEService.bat)
 
@@ -49,7 +50,7 @@ stage() {
   local dir="$1" with_lab="${2:-}"
   local targets=(SorvaneETray)
   [ -z "$with_lab" ] ||
-    targets+=(lab_engine_client lab_background lab_main_program lab_recorder)
+    targets+=(lab_engine_client lab_background lab_main_program lab_recorder lab_web_plugin)
   setup build test bench
   configure_and_build windows-x64 "${targets[@]}"
   configure_and_build native lab_configuration

@@ -24,6 +24,12 @@ void LogIn(const Ports& ports, platform::Registry& registry, const Places& place
   ports.files.MakeFolder(places.UserFolder(user));
   ports.profile_files.WriteText(machine_ini, shared::sections::kRegistry,
                                 shared::keys::kDefaultUserName, Stored(user));
+  ports.profile_files.WriteText(machine_ini, shared::sections::kRegistry, shared::keys::kTray, "0");
+  // Nothing runs, and the background process may be started.
+  ports.profile_files.WriteText(machine_ini, shared::sections::kTolvex, shared::keys::kStandard,
+                                "1");
+  ports.profile_files.WriteText(machine_ini, shared::sections::kTolvex, shared::keys::kStarted,
+                                "0");
   const struct {
     std::string_view key;
     std::string_view value;

@@ -8,6 +8,5 @@ namespace lab {
 inline constexpr std::string_view kEngineClient = "SorvaneEClsClient.exe";
 inline constexpr std::string_view kBackgroundProcess = "SorvaneEBackground.exe";
 inline constexpr std::string_view kMainProgram = "SorvaneEClassic.exe";
-inline constexpr std::string_view kWebPlugin = "SorvanePlugin.exe";
 
 }  // namespace lab

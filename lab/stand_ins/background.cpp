@@ -3,23 +3,27 @@
 
 #include "lab/engine/background_model.h"
 #include "lab/engine/program_names.h"
-#include "lab/stand_ins/process.h"
-#include "platform/win32/machine.h"
+#include "lab/stand_ins/stand_in.h"
+
+namespace {
+
+constexpr std::uint32_t kWait = 60'000;  // milliseconds
+
+void RunEngine(lab::StandIn& self) {
+  const auto started = self.machine().shell.Start(
+      platform::ShellVerb::kOpen, self.places().InInstallFolder(lab::kEngineClient), "",
+      self.places().install_folder, platform::WindowShow::kHidden);
+  if (started.handle == platform::kNoProcess) return;
+  while (self.machine().events.WaitForProcess(started.handle, kWait) ==
+         platform::WaitResult::kTimedOut) {
+  }
+}
+
+}  // namespace
 
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
-  lab::NoteCall();
-  platform::win32::Machine machine;
-  platform::Platform& ports = machine.platform();
-  const lab::Places places{.install_folder = lab::ExecutableFolder()};
-  const auto run_engine = [&] {
-    const auto started =
-        ports.shell.Start(platform::ShellVerb::kOpen, places.InInstallFolder(lab::kEngineClient),
-                          "", places.install_folder, platform::WindowShow::kHidden);
-    while (started.handle != platform::kNoProcess &&
-           ports.events.WaitForProcess(started.handle, 60'000) == platform::WaitResult::kTimedOut) {
-    }
-  };
-  lab::BackgroundModel background({ports.files, ports.profile_files}, places, ports.clock,
-                                  run_engine);
-  for (;;) ports.clock.Sleep(background.Step());
+  lab::StandIn self;
+  lab::BackgroundModel background(self.ports(), self.places(), self.machine().clock,
+                                  [&] { RunEngine(self); });
+  for (;;) self.machine().clock.Sleep(background.Step());
 }

@@ -2,16 +2,11 @@
 #include <windows.h>
 
 #include "lab/engine/engine_model.h"
-#include "lab/stand_ins/process.h"
-#include "platform/win32/machine.h"
+#include "lab/stand_ins/stand_in.h"
 
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
-  lab::NoteCall();
-  platform::win32::Machine machine;
-  platform::Platform& ports = machine.platform();
-  lab::EngineModel engine({ports.files, ports.profile_files},
-                          {.install_folder = lab::ExecutableFolder()}, ports.clock,
-                          lab::Arguments());
-  while (const auto wait = engine.Step()) ports.clock.Sleep(*wait);
+  lab::StandIn self;
+  lab::EngineModel engine(self.ports(), self.places(), self.machine().clock, lab::Arguments());
+  while (const auto wait = engine.Step()) self.machine().clock.Sleep(*wait);
   return static_cast<int>(engine.exit_code());
 }

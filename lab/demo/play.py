@@ -1,0 +1,172 @@
+"""Plays one scheduled backup on the real executable and tells what is seen.
+
+usage: play.py INSTALLATION OBSERVER OUTPUT
+
+INSTALLATION is a staged installation with the stand-ins, on the disk of the Wine prefix in use.
+"""
+
+import sys
+import time
+
+from desk import Desk, wait_for, windows_path
+from shared_files import SharedFiles
+from timeline import Timeline
+
+MAIN_FORM = "frmTVWinService"
+MENU = "#32768"
+NORMAL, RUNNING, DONE = "tvlog.ico", "tvlogyellow.ico", "tvloggreen.ico"
+
+
+class Demo:
+    def __init__(self, installation, observer, output):
+        self.installation = installation
+        self.desk = Desk(windows_path(observer), windows_path(f"{installation}/Images"))
+        self.timeline = Timeline(output, self.desk)
+        self.files = SharedFiles(installation, self.timeline.tell)
+
+    def program(self, name):
+        return windows_path(f"{self.installation}/{name}")
+
+    # What a person sees.
+
+    def icon(self):
+        icons = self.desk.icons()
+        return icons[0] if len(icons) == 1 else None
+
+    def wait_for_picture(self, picture, seconds=60):
+        wait_for(f"the icon shows {picture}",
+                 lambda: self.icon() and self.icon().picture == picture, seconds)
+
+    def rest_on_icon(self, words, seconds=60):
+        """Moves the mouse over the icon until its tip has these words; the tip is on show then."""
+
+        def tip_tells():
+            self.desk.move(self.icon().place)
+            time.sleep(0.4)
+            return words in self.icon().tip
+
+        wait_for(f'the tip tells "{words}"', tip_tells, seconds)
+        time.sleep(1.2)
+
+    def leave_icon(self):
+        self.desk.move((400, 300, 402, 302))
+
+    def wait_for_window(self, class_name, seconds=60):
+        window = wait_for(f"the window {class_name}", lambda: self.desk.window(class_name), seconds)
+        time.sleep(1.5)  # a window that fades in
+        return self.desk.window(class_name) or window
+
+    def wait_until_closed(self, class_name):
+        wait_for(f"the window {class_name} closes", lambda: not self.desk.window(class_name))
+
+    def press(self, class_name, caption):
+        window = self.wait_for_window(class_name)
+        for control in window.controls:
+            if control.text == caption:
+                self.desk.click(control.place)
+                return
+        raise LookupError(f"{class_name} shows no control {caption!r}: "
+                          + ", ".join(repr(c.text) for c in window.controls))
+
+    # The story.
+
+    def begin(self):
+        self.timeline.tell("person", "logs in through the main program")
+        self.desk.run(self.program("SorvaneEClassic.exe"), "login")
+        self.timeline.tell("person", "starts the agent")
+        self.desk.start(self.program("SorvaneETray.exe"))
+        self.wait_for_picture(NORMAL)
+        self.rest_on_icon("No backup has been scheduled.")
+        self.timeline.photograph("started", "the agent is there, nothing is scheduled")
+        self.leave_icon()
+
+    def back_up(self):
+        self.timeline.tell("person", "plans a daily backup, due at once")
+        self.desk.run(self.program("SorvaneEClassic.exe"), "schedule")
+        self.wait_for_picture(RUNNING)
+        self.timeline.photograph("running", "the backup runs, the icon blinks")
+        self.rest_on_icon("Backed up files: 3")
+        self.timeline.photograph("progress", "the tip counts the files")
+        self.leave_icon()
+        self.wait_for_picture(DONE, seconds=90)
+        time.sleep(1)
+        self.timeline.photograph("done", "the backup has ended well")
+
+    def clear(self):
+        time.sleep(6)  # green stays
+        self.wait_for_picture(DONE, seconds=5)
+        self.timeline.tell("person", "double clicks the icon")
+        self.desk.click(self.icon().place, times=2)
+        self.wait_for_picture(NORMAL)
+        self.wait_for_window("LabMainProgram")
+        self.timeline.photograph("cleared", "the double click clears it and opens the main program")
+        self.desk.key("alt+F4")
+        self.wait_until_closed("LabMainProgram")
+
+    def renew_shell(self):
+        before = self.icon().tip
+        self.timeline.tell("shell", "starts anew: its area is empty, and it tells all windows")
+        self.desk.renew_shell(MAIN_FORM)
+        wait_for("the icon is gone and back", lambda: self.icon())
+        time.sleep(4)
+        if len(self.desk.icons()) != 1 or self.icon().tip != before:
+            raise AssertionError(f"one icon with the tip {before!r}, not {self.desk.icons()}")
+        self.timeline.photograph("shell-anew", "one icon again, with its old tip")
+
+    def open_menu(self, photograph=False):
+        self.timeline.tell("person", "clicks the icon with the right button")
+        self.desk.click(self.icon().place, button=3)
+        self.wait_for_window(MENU)
+        if photograph:
+            self.timeline.photograph("menu", "the menu")
+
+    def answer_a_question(self):
+        self.open_menu(photograph=True)
+        self.timeline.tell("person", 'chooses "Web Management"')
+        self.desk.key("w")
+        self.wait_for_window("frmGeneralMessage")
+        self.timeline.photograph("message", "the product's own message box")
+        self.timeline.tell("person", 'presses "Cancel"')
+        self.press("frmGeneralMessage", "Cancel")
+        self.wait_until_closed("frmGeneralMessage")
+
+    def alert(self):
+        self.timeline.tell("web plug-in", "reports an error")
+        self.desk.run(self.program("SorvanePlugin.exe"), "error -3")
+        self.wait_for_window("frmWelcome")
+        self.timeline.photograph("web-alert", "the web alert at the lower right")
+        self.timeline.tell("person", 'presses "Close"')
+        self.press("frmWelcome", "Close")
+        self.wait_until_closed("frmWelcome")
+
+    def end(self):
+        self.open_menu()
+        self.timeline.tell("person", 'chooses "Exit"')
+        self.desk.key("x")
+        wait_for("the icon goes", lambda: not self.desk.icons())
+        time.sleep(1)
+        self.timeline.photograph("ended", "the agent has ended and taken its icon along")
+
+    def play(self):
+        for act in (self.begin, self.back_up, self.clear, self.renew_shell, self.answer_a_question,
+                    self.alert, self.end):
+            act()
+
+
+def main():
+    installation, observer, output = sys.argv[1:]
+    demo = Demo(installation, observer, output)
+    try:
+        demo.play()
+    except Exception as error:
+        demo.timeline.tell("demo", f"ends early: {error}")
+        demo.timeline.photograph("ended-early", "the screen at that moment")
+        raise SystemExit(f"the demo ended early: {error}")
+    finally:
+        demo.files.stop()
+        demo.timeline.save("One scheduled backup")
+        demo.desk.close()
+
+
+if __name__ == "__main__":
+    main()

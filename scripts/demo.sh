@@ -1,0 +1,27 @@
+# ./run demo: one scheduled backup on the real executable, on a screen with a notification area.
+#
+# Pictures and the time line go to out/demo/. See lab/demo/play.py for the story.
+. scripts/setup.sh
+. scripts/screen.sh
+. scripts/stage.sh
+
+setup build test bench screen
+mkdir -p build/logs
+trap stop_screen EXIT
+start_screen 1024x768
+use_wine_prefix demo
+
+installation="$WINEPREFIX/drive_c/Sorvane"
+rm -rf "$installation" out/demo
+mkdir -p out/demo
+stage "$installation" --lab
+configure_and_build windows-x64 lab_observer
+wine reg delete 'HKCU\Software\Bellwick-Labs' /f >/dev/null 2>&1 || true # of an earlier demo
+
+say "the shell"
+wine explorer /desktop=shell,1024x768 >/dev/null 2>&1 &
+say "playing; seconds, icon, who, what"
+PYTHONDONTWRITEBYTECODE=1 python3 lab/demo/play.py "$installation" \
+  build/windows-x64/lab/lab_observer.exe out/demo ||
+  fail "the demo" "look at the last picture in out/demo and at $installation/*/TrayTraceFile.txt"
+say "pictures and timeline.md are in out/demo"
