@@ -52,6 +52,9 @@ class TrayCommands : public shared::AgentCommands {
   void CDPTick() { continuous_.CDPTimer(); }
   void WebMTick() { web_.WebMTimer(); }
 
+  ContinuousBackup& continuous_backup() { return continuous_; }
+  WebManagement& web_management() { return web_; }
+
   void OpenStatusWindow() override {}
   void OpenSessionLog() override {}
   void OpenActivityLog() override {}

@@ -30,7 +30,10 @@ std::string Shifted(std::string_view text) {
 }  // namespace
 
 InstalledAgent::InstalledAgent()
-    : host(machine.platform().events, [this](const std::string& line) { shown.push_back(line); }) {
+    : host(machine.platform().events, [this](const std::string& line) {
+        shown.push_back(line);
+        machine.world().Note("form", line);
+      }) {
   machine.files().PutFolder(kFolder);
   for (const std::string_view picture : kPictures) {
     machine.files().PutPicture(Path("Images\\" + std::string(picture)));
@@ -52,6 +55,7 @@ InstalledAgent::InstalledAgent()
   machine.registry().PutText(Hive::kCurrentUser, kApplication, shared::registry::kVersion, "5.0");
   LogIn();
   machine.services().Set("SorvaneE Service", platform::ServiceState::kRunning);
+  machine.files().Put(Path("SorvaneEClassic.exe"), {});
   machine.processes().Start(Path("SorvaneEBackground.exe"));
   machine.SetAgentWindow([this](std::uintptr_t window, std::uint32_t message, std::uintptr_t wparam,
                                 std::intptr_t lparam) {

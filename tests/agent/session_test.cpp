@@ -1,0 +1,234 @@
+#include "agent/session.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "shared/file_names.h"
+#include "shared/keys.h"
+#include "status/progress_keys.h"
+#include "tests/agent/effects.h"
+#include "tests/agent/installed_agent.h"
+
+namespace agent {
+namespace {
+
+using ::testing::Contains;
+using testing::Effects;
+using ::testing::ElementsAre;
+using testing::InstalledAgent;
+using ::testing::Not;
+namespace files = shared::files;
+namespace keys = shared::keys;
+
+constexpr std::string_view kQuestion = "ask Are you sure you want to logout from Sorvane ?";
+
+class SessionTest : public ::testing::Test {
+ protected:
+  SessionTest() {
+    agent_.machine.libraries().PutFunction(agent_.Path("ShellHlpr.dll"), "SendMsgToApp",
+                                           [](std::int32_t) { return 0; });
+    agent_.machine.libraries().PutFunction(agent_.Path("SorvaneERealTime.dll"), "PostCDPStatusMsg",
+                                           [](std::int32_t) { return 0; });
+    agent_.SetShared(keys::kRealTimeBackup, "1");
+  }
+  void Start() {
+    ASSERT_TRUE(agent_.Start());
+    agent_.StopTimers();
+    agent_.agent().form().commands().SetTrayIcon("before");
+    agent_.machine.journal().Clear();
+  }
+  platform::ProcessId StartProgram(std::string_view name) {
+    return agent_.machine.processes().Start(agent_.Path(name));
+  }
+  void OpenWindow(std::string_view title) {
+    platform::memory::ForeignWindow window;
+    window.title = title;
+    agent_.machine.windows().Add(window);
+  }
+  bool Runs(platform::ProcessId id) { return agent_.machine.processes().Find(id)->running; }
+  void LogOutByMenu() {
+    agent_.host.AnswerWith("Continue");
+    agent_.agent().form().commands().MnuLoginClick();
+  }
+  // A transfer with a backup and a restore client, the first from the context menu.
+  void StartTransfer() {
+    backup_ = StartProgram("SorvaneEClsClient.exe");
+    restore_ = StartProgram("SorvaneEClsClient.exe");
+    agent_.SetStatus(status::kStatus, "1");
+    agent_.SetShifted(keys::kClientPid, std::to_string(backup_));
+    agent_.SetShifted(keys::kClientPidRestore, std::to_string(restore_));
+    agent_.PutUserFile(files::kContextMenuRun);
+  }
+
+  InstalledAgent agent_;
+  platform::ProcessId backup_ = 0;
+  platform::ProcessId restore_ = 0;
+};
+
+TEST_F(SessionTest, MenuLogoutEndsAllInItsOrder) {
+  StartTransfer();
+  StartProgram("SorvaneEClassic.exe");
+  agent_.SetStatus(status::kProgStatus, "2");
+  agent_.PutUserFile(files::kQuotaExceeded);
+  Start();
+  const std::string backup = std::to_string(backup_);
+  const std::string restore = std::to_string(restore_);
+  LogOutByMenu();
+  EXPECT_THAT(
+      Effects(agent_),
+      ElementsAre(
+          std::string(kQuestion), "call ShellHlpr.dll.SendMsgToApp(1034)",
+          "trace Logged out and set Connection Paramter to 0", "registry Status=0", "tip ",
+          "remove QuotaExceeded.txt", "trace IntBackup = 1",
+          "trace Interactive backup running for the user: ann",
+          "trace Context backup with Process ID = " + backup,
+          "trace Terminating the process  " + backup, "end SorvaneEClsClient.exe",
+          "write BackupStatus.Status=0", "trace Interactive Restore with Process ID = " + restore,
+          "trace Terminating the process-Restore  " + restore, "end SorvaneEClsClient.exe",
+          "write BackupStatus.Status=0", "trace Interactive Restore with Process ID = " + restore,
+          "trace Terminating the process-Restore  " + restore, "write BackupStatus.Status=0",
+          "end SorvaneEClassic.exe", "write BackupStatus.Status=5", "write Tolvex.RealTimeBackup=0",
+          "write Tolvex.RTBPausedBySch=0", "call SorvaneERealTime.dll.PostCDPStatusMsg(0)",
+          "write Tolvex.RTBackup=0"));
+}
+
+TEST_F(SessionTest, ExplorerLogoutAsksNothingAndKeepsTheChoiceOfContinuousBackup) {
+  StartProgram("SorvaneEClassic.exe");
+  Start();
+  agent_.agent().form().commands().ExplorerLogout();
+  EXPECT_THAT(Effects(agent_),
+              ElementsAre("trace Explorer logout", "registry Status=0", "tip ",
+                          "trace IntBackup = ", "trace Interactive Restore with Process ID = ",
+                          "trace Terminating the process-Restore  ", "write BackupStatus.Status=0",
+                          "end SorvaneEClassic.exe", "write Tolvex.RTBackup=0",
+                          "write Tolvex.RTBPausedBySch=0",
+                          "call SorvaneERealTime.dll.PostCDPStatusMsg(0)"));
+  EXPECT_EQ(agent_.Shared(keys::kRealTimeBackup), "1");
+}
+
+TEST_F(SessionTest, ReloginEndsAllAndOpensTheMainProgram) {
+  StartProgram("SorvaneEClassic.exe");
+  Start();
+  agent_.agent().form().commands().Relogin();
+  EXPECT_THAT(
+      Effects(agent_),
+      ElementsAre("call ShellHlpr.dll.SendMsgToApp(1034)", "registry Status=0", "tip ",
+                  "trace IntBackup = ", "trace Interactive Restore with Process ID = ",
+                  "trace Terminating the process-Restore  ", "write BackupStatus.Status=0",
+                  "end SorvaneEClassic.exe", "write Tolvex.RealTimeBackup=0",
+                  "write Tolvex.RTBPausedBySch=0", "call SorvaneERealTime.dll.PostCDPStatusMsg(0)",
+                  "write Tolvex.RTBackup=0", "start C:\\Sorvane\\SorvaneEClassic.exe"));
+}
+
+TEST_F(SessionTest, AnswerNoLeavesAllAsItWas) {
+  Start();
+  agent_.host.AnswerWith("IDCancel");
+  agent_.agent().form().commands().MnuLoginClick();
+  EXPECT_THAT(Effects(agent_), ElementsAre(std::string(kQuestion)));
+  EXPECT_EQ(agent_.ConnectionStatus(), 1u);
+}
+
+TEST_F(SessionTest, AnItemThatReadsLoginOpensTheMainProgram) {
+  Start();
+  OpenWindow("Sorvane - Login");
+  agent_.Item("MnuLogin").SetCaption("&Login");
+  agent_.agent().form().commands().MnuLoginClick();
+  EXPECT_THAT(Effects(agent_),
+              ElementsAre("send Sorvane - Login 16 0 0", "start C:\\Sorvane\\SorvaneEClassic.exe"));
+}
+
+TEST_F(SessionTest, TheExplorersMessageLogsOut) {
+  Start();
+  const auto message =
+      agent_.machine.platform().other_windows.RegisterMessage("CloseInteractiveWindow");
+  agent_.Send(message);
+  EXPECT_EQ(agent_.ConnectionStatus(), 0u);
+  EXPECT_EQ(agent_.Traced("Calling logou t from explorer"), 1u);
+}
+
+TEST_F(SessionTest, EachWayClosesTheMainProgramsWindowByItsOwnTitle) {
+  OpenWindow("Sorvane Classic (ann)");
+  OpenWindow("Sorvane Classic (Version: 5.0 - ann)");
+  Start();
+  agent_.agent().form().commands().ExplorerLogout();
+  EXPECT_THAT(Effects(agent_), Contains("send Sorvane Classic (ann) 16 0 0"));
+  agent_.machine.journal().Clear();
+  LogOutByMenu();
+  EXPECT_THAT(Effects(agent_), Contains("send Sorvane Classic (Version: 5.0 - ann) 16 0 0"));
+}
+
+TEST_F(SessionTest, WithoutATransferOnlyTheRestoreClientIsEnded) {
+  StartTransfer();
+  agent_.SetStatus(status::kStatus, "0");
+  Start();
+  agent_.agent().form().commands().ExplorerLogout();
+  EXPECT_TRUE(Runs(backup_));
+  EXPECT_FALSE(Runs(restore_));
+  EXPECT_EQ(agent_.Traced("backup with Process ID"), 0u);
+}
+
+TEST_F(SessionTest, AClientThatDidNotComeFromTheContextMenuIsLeftAlone) {
+  StartTransfer();
+  agent_.machine.files().Delete(agent_.UserPath(files::kContextMenuRun));
+  Start();
+  agent_.agent().form().commands().ExplorerLogout();
+  EXPECT_TRUE(Runs(backup_));
+  EXPECT_FALSE(Runs(restore_));
+  EXPECT_EQ(agent_.Traced("Interactive backup with Process ID = " + std::to_string(backup_)), 1u);
+}
+
+TEST_F(SessionTest, ALogoutDeletesAStaleQuotaFile) {
+  agent_.PutUserFile(files::kQuotaExceeded);
+  Start();
+  LogOutByMenu();
+  EXPECT_FALSE(agent_.HasUserFile(files::kQuotaExceeded));
+}
+
+TEST_F(SessionTest, AStaleProcessIdEndsNothing) {
+  agent_.SetStatus(status::kStatus, "2");
+  agent_.SetShifted(keys::kClientPid, "99999");
+  agent_.SetShifted(keys::kClientPidRestore, "no number");
+  agent_.PutUserFile(files::kContextMenuRun);
+  Start();
+  agent_.agent().form().commands().ExplorerLogout();
+  EXPECT_EQ(agent_.machine.journal().Count("process", "terminate"), 0u);
+  EXPECT_EQ(agent_.Status(status::kStatus), "0");
+}
+
+TEST_F(SessionTest, AProcessIdThatNowBelongsToAnotherProgramIsLeftAlone) {
+  StartTransfer();
+  const auto stranger = agent_.machine.processes().Start("C:\\Windows\\notepad.exe");
+  const auto neighbour = agent_.machine.processes().Start("C:\\SorvaneOther\\tool.exe");
+  agent_.SetShifted(keys::kClientPid, std::to_string(stranger));
+  agent_.SetShifted(keys::kClientPidRestore, std::to_string(neighbour));
+  Start();
+  agent_.agent().form().commands().ExplorerLogout();
+  EXPECT_TRUE(Runs(stranger));
+  EXPECT_TRUE(Runs(neighbour));
+  EXPECT_EQ(agent_.Status(status::kStatus), "0");
+}
+
+TEST_F(SessionTest, TheMenuShowsTheLoginWordsAfterALogout) {
+  Start();
+  agent_.RightClick();
+  EXPECT_EQ(agent_.Item("MnuOptions").Caption(), "Sorvane - Schedule Backup");
+  LogOutByMenu();
+  agent_.RightClick();
+  EXPECT_EQ(agent_.Item("MnuOptions").Caption(), "Login - Sorvane Schedule Backup");
+  EXPECT_FALSE(agent_.Item("mnuStatus").Enabled());
+}
+
+TEST_F(SessionTest, ALibraryTextTakesTheProductsName) {
+  agent_.machine.libraries().PutString(agent_.Path("TVToolTips.dll"), 1367, "Leave Sorvane now?");
+  agent_.MakePartner();
+  Start();
+  agent_.host.AnswerWith("IDCancel");
+  agent_.agent().form().commands().MnuLoginClick();
+  EXPECT_THAT(Effects(agent_), Contains("ask Leave Acme now?"));
+}
+
+}  // namespace
+}  // namespace agent
