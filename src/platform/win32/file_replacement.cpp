@@ -47,8 +47,7 @@ bool FileReplacement::FillFrom(std::string_view file) {
 bool FileReplacement::PutInPlace() {
   if (path_.empty()) return false;
   if (IsReadOnly(target_) || IsFolder(target_)) return false;
-  if (!MoveFileExA(path_.c_str(), target_.c_str(),
-                   MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
+  if (!MoveFileExA(path_.c_str(), target_.c_str(), MOVEFILE_REPLACE_EXISTING)) {
     return false;
   }
   path_.clear();

@@ -19,20 +19,24 @@ std::uint64_t SizeOfOpen(const ScopedFile& file) {
   return GetFileSizeEx(file.get(), &size) ? static_cast<std::uint64_t>(size.QuadPart) : 0;
 }
 
-// Reads up to `limit` bytes, growing with what is there, so that a limit costs nothing by itself.
+// Reads up to `limit` bytes. Begins with what the file says of its size, and one more byte that
+// tells whether it has grown since.
 std::optional<std::string> ReadUpTo(const ScopedFile& file, std::size_t limit) {
   constexpr std::size_t kPiece = 1u << 20;
+  const std::uint64_t size = SizeOfOpen(file);
+  std::size_t piece = size < kPiece ? static_cast<std::size_t>(size) + 1 : kPiece;
   std::string bytes;
   while (bytes.size() < limit) {
-    const std::size_t wanted = std::min(limit - bytes.size(), kPiece);
     const std::size_t before = bytes.size();
+    const std::size_t wanted = std::min(limit - before, piece);
     bytes.resize(before + wanted);
     DWORD got = 0;
     if (!ReadFile(file.get(), bytes.data() + before, static_cast<DWORD>(wanted), &got, nullptr)) {
       return std::nullopt;
     }
     bytes.resize(before + got);
-    if (got == 0) break;
+    if (got < wanted) break;
+    piece = kPiece;
   }
   return bytes;
 }

@@ -63,24 +63,30 @@ int Linger(const std::string& ready_event) {
   return 0;
 }
 
-DWORD service_state = SERVICE_RUNNING;
+SERVICE_STATUS_HANDLE service = nullptr;
 
-DWORD WINAPI ServiceControl(DWORD, DWORD, void*, void*) {
+void Tell(DWORD state) {
+  SERVICE_STATUS status = {};
+  status.dwServiceType = SERVICE_WIN32_OWN_PROCESS;
+  status.dwCurrentState = state;
+  SetServiceStatus(service, &status);
+}
+
+// An order of the user's range gives the state to stand in from now on.
+DWORD WINAPI ServiceControl(DWORD order, DWORD, void*, void*) {
+  constexpr DWORD kFirstUserOrder = 128;
+  if (order > kFirstUserOrder) Tell(order - kFirstUserOrder);
   return NO_ERROR;
 }
 
 void WINAPI ServiceMain(DWORD, char**) {
   char name[] = "";
-  const SERVICE_STATUS_HANDLE handle = RegisterServiceCtrlHandlerExA(name, ServiceControl, nullptr);
-  SERVICE_STATUS status = {};
-  status.dwServiceType = SERVICE_WIN32_OWN_PROCESS;
-  status.dwCurrentState = service_state;
-  SetServiceStatus(handle, &status);
+  service = RegisterServiceCtrlHandlerExA(name, ServiceControl, nullptr);
+  Tell(SERVICE_RUNNING);
   Sleep(INFINITE);
 }
 
-int Serve(const std::string& state) {
-  service_state = static_cast<DWORD>(std::atoi(state.c_str()));
+int Serve() {
   char name[] = "";
   const SERVICE_TABLE_ENTRYA table[] = {{name, ServiceMain}, {nullptr, nullptr}};
   return StartServiceCtrlDispatcherA(table) ? 0 : 1;
@@ -99,6 +105,6 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, char*, int) {
   const std::string word(arguments.substr(0, blank));
   const std::string rest(blank == std::string_view::npos ? "" : arguments.substr(blank + 1));
   if (word == "linger") return Linger(rest);
-  if (word == "serve") return Serve(rest);
+  if (word == "serve") return Serve();
   return 2;
 }

@@ -25,6 +25,16 @@ void EndProcessOf(const ScopedService& service) {
   WaitForSingleObject(process.get(), 10000);
 }
 
+// Waits until the service says that it stands in `state`; a test that waits in vain fails by it.
+void StandIn(const ScopedService& service, DWORD state) {
+  constexpr int kTries = 1000;
+  SERVICE_STATUS status = {};
+  for (int i = 0; i < kTries && status.dwCurrentState != state; ++i) {
+    if (i > 0) Sleep(10);
+    if (!QueryServiceStatus(service.get(), &status)) return;
+  }
+}
+
 }  // namespace
 
 ContractServices::~ContractServices() {
@@ -33,8 +43,7 @@ ContractServices::~ContractServices() {
 
 void ContractServices::Put(const std::string& name, ServiceState state) {
   Remove(name);
-  const std::string command =
-      "\"" + companion_ + "\" serve " + std::to_string(static_cast<int>(state));
+  const std::string command = "\"" + companion_ + "\" serve";
   const ScopedService manager = OpenManager();
   const ScopedService service(
       CreateServiceA(manager.get(), name.c_str(), name.c_str(), SERVICE_ALL_ACCESS,
@@ -43,11 +52,12 @@ void ContractServices::Put(const std::string& name, ServiceState state) {
   names_.push_back(name);
   if (state == ServiceState::kStopped) return;
   StartServiceA(service.get(), 0, nullptr);
+  StandIn(service, SERVICE_RUNNING);
+  if (state == ServiceState::kRunning) return;
+  constexpr DWORD kFirstUserOrder = 128;
   SERVICE_STATUS status = {};
-  while (QueryServiceStatus(service.get(), &status) &&
-         status.dwCurrentState != static_cast<DWORD>(state)) {
-    Sleep(10);
-  }
+  ControlService(service.get(), kFirstUserOrder + static_cast<DWORD>(state), &status);
+  StandIn(service, static_cast<DWORD>(state));
 }
 
 void ContractServices::Remove(const std::string& name) {
