@@ -12,9 +12,9 @@ constexpr std::uintptr_t kGoingToSleep = 4;
 constexpr std::uintptr_t kAwakeAgain = 7;
 constexpr std::uintptr_t kAllWindows = 0;
 
-constexpr std::string_view kSystemPrograms[] = {
-    "C:\\Windows\\explorer.exe", "C:\\Windows\\notepad.exe", "C:\\Windows\\System32\\cmd.exe",
-    "C:\\Windows\\System32\\net.exe"};
+constexpr std::string_view kPrograms[] = {
+    "C:\\Sorvane\\SorvaneETray.exe", "C:\\Windows\\explorer.exe", "C:\\Windows\\notepad.exe",
+    "C:\\Windows\\System32\\cmd.exe", "C:\\Windows\\System32\\net.exe"};
 
 std::string_view NameOfLock(FileLock lock) {
   return lock == FileLock::kAgainstWriting ? "lock against writing " : "lock ";
@@ -23,7 +23,7 @@ std::string_view NameOfLock(FileLock lock) {
 }  // namespace
 
 Machine::Machine(std::uint64_t seed) : random_(world_, seed) {
-  for (const std::string_view program : kSystemPrograms) files_.Put(program, "MZ");
+  for (const std::string_view program : kPrograms) files_.Put(program, "MZ");
 }
 
 void Machine::Jump(std::uint64_t milliseconds) {

@@ -10,17 +10,6 @@ namespace {
 
 constexpr std::uint32_t kFileNotFound = 2;
 constexpr std::uint32_t kDirectoryName = 267;
-constexpr std::string_view kByteOrderMark = "\xFF\xFE";
-
-std::string Bytes(std::u16string_view text) {
-  std::string bytes;
-  bytes.reserve(text.size() * 2);
-  for (const char16_t unit : text) {
-    bytes += static_cast<char>(unit & 0xFF);
-    bytes += static_cast<char>(unit >> 8);
-  }
-  return bytes;
-}
 
 }  // namespace
 
@@ -57,7 +46,7 @@ bool MemoryFiles::AppendUtf16Line(std::string_view path, std::string_view line) 
   if (done) {
     DiskNode* node = disk_.FindFile(path);
     if (node == nullptr || node->bytes.empty()) node = &disk_.SetContent(path, kByteOrderMark);
-    node->bytes += Bytes(WideOf(line)) + Bytes(u"\r\n");
+    node->bytes += BytesOf(WideOf(line)) + BytesOf(u"\r\n");
     disk_.Touch(*node);
   }
   return Note(done, "append " + std::string(path) + " " + std::string(line));
@@ -186,15 +175,7 @@ std::string MemoryFiles::Content(std::string_view path) {
 }
 
 std::string MemoryFiles::Utf16Content(std::string_view path) {
-  std::string bytes = Content(path);
-  std::string_view units = bytes;
-  if (units.starts_with(kByteOrderMark)) units.remove_prefix(kByteOrderMark.size());
-  std::u16string wide;
-  for (std::size_t i = 0; i + 1 < units.size(); i += 2) {
-    wide += static_cast<char16_t>(static_cast<unsigned char>(units[i]) |
-                                  (static_cast<unsigned char>(units[i + 1]) << 8));
-  }
-  return AnsiOf(wide);
+  return AnsiOfBytes(Content(path));
 }
 
 std::string MemoryFiles::IniValue(std::string_view path, std::string_view section,

@@ -83,6 +83,10 @@ void MemoryOtherWindows::SetTitle(WindowId window, std::string_view title) {
   if (ForeignWindow* named = FindWindow(window)) named->title = title;
 }
 
+void MemoryOtherWindows::SetProcedure(WindowId window, WindowProcedure procedure) {
+  if (ForeignWindow* set = FindWindow(window)) set->procedure = std::move(procedure);
+}
+
 void MemoryOtherWindows::SetMinimised(WindowId window, bool minimised) {
   if (ForeignWindow* set = FindWindow(window)) set->minimised = minimised;
 }

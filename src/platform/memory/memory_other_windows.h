@@ -45,6 +45,7 @@ class MemoryOtherWindows : public OtherWindows {
   WindowId Add(ForeignWindow window);
   void Close(WindowId window) { windows_.erase(window); }
   void SetTitle(WindowId window, std::string_view title);
+  void SetProcedure(WindowId window, WindowProcedure procedure);
   void SetMinimised(WindowId window, bool minimised);
   // nullptr when it is gone.
   const ForeignWindow* Get(WindowId window) const;

@@ -3,11 +3,17 @@
 #include <algorithm>
 #include <optional>
 
+#include "platform/memory/code_page.h"
+
 namespace platform::memory {
 namespace {
 
 bool IsBlank(char character) {
   return character == ' ' || character == '\x1A' || (character >= '\t' && character <= '\r');
+}
+
+bool IsWide(std::string_view text) {
+  return text.starts_with(kByteOrderMark);
 }
 
 bool EndsLine(char character) {
@@ -54,33 +60,52 @@ std::string_view StripProfileQuotes(std::string_view value) {
 
 std::string_view ProfileIndex::Value(std::string_view text, std::string_view section,
                                      std::string_view key) {
-  if (!made_) Make(text);
-  const Section* in = FindSection(text, TrimProfileBlanks(section));
-  if (in == nullptr) return {};
-  const Key* found = FindKey(text, *in, TrimProfileBlanks(key));
-  return found == nullptr ? std::string_view{}
-                          : UpToNul(text.substr(found->value.begin, found->value.length));
+  if (!made_) {
+    wide_ = IsWide(text);
+    if (wide_) narrowed_ = AnsiOfBytes(text);
+    Make(wide_ ? narrowed_ : text);
+  }
+  return FindValue(wide_ ? narrowed_ : text, TrimProfileBlanks(section), TrimProfileBlanks(key));
 }
 
 void ProfileIndex::SetValue(std::string& text, std::string_view section, std::string_view key,
                             std::string_view value) {
-  if (!made_) Make(text);
-  section = TrimProfileBlanks(section);
-  key = TrimProfileBlanks(key);
-  const std::string line = std::string(key) + "=" + std::string(value);
+  if (!IsWide(text)) {
+    SetAnsiValue(text, TrimProfileBlanks(section), TrimProfileBlanks(key), value);
+  } else {
+    std::string narrowed = AnsiOfBytes(text);
+    SetAnsiValue(narrowed, TrimProfileBlanks(section), TrimProfileBlanks(key), value);
+    text = std::string(kByteOrderMark) + BytesOf(WideOf(narrowed));
+  }
+  Forget();
+}
+
+std::string_view ProfileIndex::FindValue(std::string_view text, std::string_view section,
+                                         std::string_view key) const {
+  const Section* in = FindSection(text, section);
+  const Key* found = in == nullptr ? nullptr : FindKey(text, *in, key);
+  return found == nullptr ? std::string_view{}
+                          : UpToNul(text.substr(found->value.begin, found->value.length));
+}
+
+void ProfileIndex::SetAnsiValue(std::string& text, std::string_view section, std::string_view key,
+                                std::string_view value) {
+  Make(text);
+  const std::string ending = "=" + std::string(value);
+  const std::string line = std::string(key) + ending;
   const Section* in = FindSection(text, section);
   if (in == nullptr) {
     if (!text.empty() && !EndsLine(text.back())) text += "\r\n";
     text += "[" + std::string(section) + "]\r\n" + line + "\r\n";
   } else if (const Key* found = FindKey(text, *in, key)) {
-    text.replace(found->name.begin, found->line_end - found->name.begin, line);
+    const std::size_t behind_name = found->name.begin + found->name.length;
+    text.replace(behind_name, found->line_end - behind_name, ending);
   } else {
     const std::size_t behind =
         in->keys == 0 ? in->header_end : keys_[in->first_key + in->keys - 1].line_end;
     text.insert(behind, "\r\n" + line);
     if (behind + 2 + line.size() == text.size()) text += "\r\n";
   }
-  Forget();
 }
 
 void ProfileIndex::Make(std::string_view text) {

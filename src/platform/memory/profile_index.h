@@ -19,7 +19,8 @@ class ProfileIndex {
   void Forget() { made_ = false; }
 
   // The value of the first key of that name in the first section of that name, with its quotes;
-  // empty when there is none. Good as long as `text` is.
+  // empty when there is none. Good until the next call or change of `text`. Text that begins with
+  // the byte-order mark of UTF-16 is taken as such, here and below.
   std::string_view Value(std::string_view text, std::string_view section, std::string_view key);
 
   // Sets one key in `text`, leaving every other line as it is. The line takes the place of the one
@@ -50,7 +51,14 @@ class ProfileIndex {
   const Section* FindSection(std::string_view text, std::string_view name) const;
   const Key* FindKey(std::string_view text, const Section& section, std::string_view name) const;
 
+  std::string_view FindValue(std::string_view text, std::string_view section,
+                             std::string_view key) const;
+  void SetAnsiValue(std::string& text, std::string_view section, std::string_view key,
+                    std::string_view value);
+
   bool made_ = false;
+  bool wide_ = false;
+  std::string narrowed_;  // wide text in ANSI
   std::vector<Section> sections_;
   std::vector<Key> keys_;
 };

@@ -190,6 +190,8 @@ void MemoryLibraries::PutTextFunction(std::string_view path, std::string_view na
 }
 
 const MemoryLibraries::Library* MemoryLibraries::Load(std::string_view path) {
+  // Nothing is searched for: the path must be full.
+  if (path.find(":\\") != 1 && !path.starts_with("\\\\")) return nullptr;
   if (disk_.FindReadable(path) == nullptr) return nullptr;
   const auto found = libraries_.find(disk_.Normalise(path));
   return found == libraries_.end() ? nullptr : &found->second;
