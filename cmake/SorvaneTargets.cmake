@@ -37,5 +37,7 @@ function(sorvane_fuzz name)
   add_executable(${name} ${ARG_SOURCES})
   target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}")
   target_link_libraries(${name} PRIVATE ${ARG_LINKS})
+  # As the libraries: the sanitizer would ask for type records that they do not have.
+  target_compile_options(${name} PRIVATE -fno-rtti)
   target_link_options(${name} PRIVATE -fsanitize=fuzzer)
 endfunction()
