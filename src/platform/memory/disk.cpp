@@ -66,8 +66,13 @@ const std::string& Disk::Normalise(std::string_view path) {
 
 DiskNode* Disk::Find(std::string_view path) {
   if (path.empty()) return nullptr;
+  // The same file is asked for many times in a row.
+  if (last_found_ != nullptr && path == last_asked_) return last_found_;
   const auto found = nodes_.find(Normalise(path));
-  return found == nodes_.end() ? nullptr : &found->second;
+  if (found == nodes_.end()) return nullptr;
+  last_asked_.assign(path);
+  last_found_ = &found->second;
+  return last_found_;
 }
 
 DiskNode* Disk::FindFile(std::string_view path) {
@@ -102,13 +107,13 @@ DiskNode& Disk::SetContent(std::string_view path, std::string_view bytes) {
   DiskNode* node = Find(path);
   if (node == nullptr) node = &Make(std::string(Normalise(path)), false);
   node->bytes.assign(bytes);
+  node->index.Forget();
   Touch(*node);
   return *node;
 }
 
 void Disk::Touch(DiskNode& node) {
   node.modified = timeline_.LocalSeconds();
-  node.index.Forget();
 }
 
 bool Disk::MakeFolder(std::string_view path) {
@@ -140,6 +145,7 @@ bool Disk::Remove(std::string_view path) {
   const DiskNode& node = found->second;
   if (node.read_only || node.lock != FileLock::kNone) return false;
   if (node.is_folder && !In(found->first).empty()) return false;
+  last_found_ = nullptr;
   nodes_.erase(found);
   return true;
 }

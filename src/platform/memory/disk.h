@@ -50,7 +50,7 @@ class Disk {
   bool MayWrite(std::string_view path);
   // Sets the content, making the file; the caller has asked MayWrite.
   DiskNode& SetContent(std::string_view path, std::string_view bytes);
-  // Marks a changed content.
+  // Marks the file as written now.
   void Touch(DiskNode& node);
 
   bool MakeFolder(std::string_view path);
@@ -77,6 +77,8 @@ class Disk {
   Nodes nodes_;
   std::string current_folder_ = "C:\\";
   std::string normalised_;
+  std::string last_asked_;
+  DiskNode* last_found_ = nullptr;  // of `last_asked_`
   bool full_ = false;
 };
 

@@ -47,6 +47,7 @@ bool MemoryFiles::AppendUtf16Line(std::string_view path, std::string_view line) 
     DiskNode* node = disk_.FindFile(path);
     if (node == nullptr || node->bytes.empty()) node = &disk_.SetContent(path, kByteOrderMark);
     node->bytes += BytesOf(WideOf(line)) + BytesOf(u"\r\n");
+    node->index.Forget();
     disk_.Touch(*node);
   }
   return Note(done, "append " + std::string(path) + " " + std::string(line));

@@ -5,12 +5,11 @@
 namespace platform::memory {
 namespace {
 
-// A bare file name means the folder of Windows.
-std::string Place(std::string_view file) {
-  if (file.find('\\') != std::string_view::npos || file.find(':') != std::string_view::npos) {
-    return std::string(file);
-  }
-  return "C:\\Windows\\" + std::string(file);
+// A bare file name means the folder of Windows; `place` holds the path then.
+std::string_view Place(std::string_view file, std::string& place) {
+  if (file.empty() || file.find_first_of("\\:/") != std::string_view::npos) return file;
+  place = "C:\\Windows\\" + std::string(file);
+  return place;
 }
 
 // The base that a prefix asks for; `text` is left behind the prefix.
@@ -63,8 +62,8 @@ bool MemoryProfileFiles::Fails(std::string_view name, std::string_view file,
 
 std::string_view MemoryProfileFiles::Value(std::string_view file, std::string_view section,
                                            std::string_view key) {
-  const bool bare = file.find('\\') == std::string_view::npos;
-  DiskNode* node = disk_.FindReadable(bare ? Place(file) : file);
+  std::string place;
+  DiskNode* node = disk_.FindReadable(Place(file, place));
   if (node == nullptr) return {};
   return StripProfileQuotes(node->index.Value(node->bytes, section, key));
 }
@@ -83,7 +82,8 @@ std::int32_t MemoryProfileFiles::ReadInt(std::string_view file, std::string_view
 
 bool MemoryProfileFiles::WriteText(std::string_view file, std::string_view section,
                                    std::string_view key, std::string_view value) {
-  const std::string path = Place(file);
+  std::string place;
+  const std::string_view path = Place(file, place);
   const bool done = !Fails("profile_files.WriteText", file, section, key) && disk_.MayWrite(path);
   if (done) {
     DiskNode* node = disk_.FindFile(path);

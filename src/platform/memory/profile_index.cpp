@@ -26,8 +26,17 @@ char SmallLetter(char character) {
 
 // Only the letters of ASCII are the same in both cases here.
 bool SameName(std::string_view left, std::string_view right) {
-  return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                    [](char a, char b) { return SmallLetter(a) == SmallLetter(b); });
+  if (left.size() != right.size()) return false;
+  for (std::size_t i = left.size(); i-- != 0;) {
+    if (left[i] != right[i] && SmallLetter(left[i]) != SmallLetter(right[i])) return false;
+  }
+  return true;
+}
+
+// True when a line with this value reads as the value itself.
+bool IsPlain(std::string_view value) {
+  return TrimProfileBlanks(value).size() == value.size() &&
+         value.find_first_of(std::string_view("\r\n\0", 3)) == std::string_view::npos;
 }
 
 // What another program's reader, which ends texts at NUL, sees of it.
@@ -70,13 +79,16 @@ std::string_view ProfileIndex::Value(std::string_view text, std::string_view sec
 
 void ProfileIndex::SetValue(std::string& text, std::string_view section, std::string_view key,
                             std::string_view value) {
+  section = TrimProfileBlanks(section);
+  key = TrimProfileBlanks(key);
   if (!IsWide(text)) {
-    SetAnsiValue(text, TrimProfileBlanks(section), TrimProfileBlanks(key), value);
-  } else {
-    std::string narrowed = AnsiOfBytes(text);
-    SetAnsiValue(narrowed, TrimProfileBlanks(section), TrimProfileBlanks(key), value);
-    text = std::string(kByteOrderMark) + BytesOf(WideOf(narrowed));
+    SetAnsiValue(text, section, key, value);
+    return;
   }
+  std::string narrowed = AnsiOfBytes(text);
+  Forget();
+  SetAnsiValue(narrowed, section, key, value);
+  text = std::string(kByteOrderMark) + BytesOf(WideOf(narrowed));
   Forget();
 }
 
@@ -85,19 +97,25 @@ std::string_view ProfileIndex::FindValue(std::string_view text, std::string_view
   const Section* in = FindSection(text, section);
   const Key* found = in == nullptr ? nullptr : FindKey(text, *in, key);
   return found == nullptr ? std::string_view{}
-                          : UpToNul(text.substr(found->value.begin, found->value.length));
+                          : text.substr(found->value.begin, found->value.length);
 }
 
 void ProfileIndex::SetAnsiValue(std::string& text, std::string_view section, std::string_view key,
                                 std::string_view value) {
-  Make(text);
+  if (!made_ || wide_) Make(text);
+  const Section* in = FindSection(text, section);
+  const Key* found = in == nullptr ? nullptr : FindKey(text, *in, key);
+  if (found != nullptr && found->value.length == value.size() && IsPlain(value)) {
+    // Nothing moves: the index holds.
+    text.replace(found->value.begin, value.size(), value);
+    return;
+  }
   const std::string ending = "=" + std::string(value);
   const std::string line = std::string(key) + ending;
-  const Section* in = FindSection(text, section);
   if (in == nullptr) {
     if (!text.empty() && !EndsLine(text.back())) text += "\r\n";
     text += "[" + std::string(section) + "]\r\n" + line + "\r\n";
-  } else if (const Key* found = FindKey(text, *in, key)) {
+  } else if (found != nullptr) {
     const std::size_t behind_name = found->name.begin + found->name.length;
     text.replace(behind_name, found->line_end - behind_name, ending);
   } else {
@@ -106,6 +124,7 @@ void ProfileIndex::SetAnsiValue(std::string& text, std::string_view section, std
     text.insert(behind, "\r\n" + line);
     if (behind + 2 + line.size() == text.size()) text += "\r\n";
   }
+  Forget();
 }
 
 void ProfileIndex::Make(std::string_view text) {
@@ -130,20 +149,20 @@ void ProfileIndex::Make(std::string_view text) {
     const std::string_view value = equals == std::string_view::npos
                                        ? line.substr(line.size())
                                        : TrimProfileBlanks(line.substr(equals + 1));
-    keys_.push_back({{begin, name.size()}, SpanOf(text, value), line_end});
+    keys_.push_back({SpanOf(text, name), SpanOf(text, value), line_end});
     ++sections_.back().keys;
   }
 }
 
 ProfileIndex::Span ProfileIndex::SpanOf(std::string_view text, std::string_view part) {
-  return {static_cast<std::size_t>(part.data() - text.data()), part.size()};
+  return {static_cast<std::size_t>(part.data() - text.data()), UpToNul(part).size()};
 }
 
 const ProfileIndex::Section* ProfileIndex::FindSection(std::string_view text,
                                                        std::string_view name) const {
   for (const Section& section : sections_) {
     if (section.name.begin != 0 &&
-        SameName(UpToNul(text.substr(section.name.begin, section.name.length)), name)) {
+        SameName(text.substr(section.name.begin, section.name.length), name)) {
       return &section;
     }
   }
@@ -154,7 +173,7 @@ const ProfileIndex::Key* ProfileIndex::FindKey(std::string_view text, const Sect
                                                std::string_view name) const {
   for (std::size_t i = 0; i < section.keys; ++i) {
     const Key& key = keys_[section.first_key + i];
-    if (SameName(UpToNul(text.substr(key.name.begin, key.name.length)), name)) return &key;
+    if (SameName(text.substr(key.name.begin, key.name.length), name)) return &key;
   }
   return nullptr;
 }

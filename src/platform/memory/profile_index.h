@@ -46,6 +46,7 @@ class ProfileIndex {
     std::size_t header_end = 0;
   };
 
+  // Where `part` lies in `text`, up to its first NUL.
   static Span SpanOf(std::string_view text, std::string_view part);
   void Make(std::string_view text);
   const Section* FindSection(std::string_view text, std::string_view name) const;
