@@ -28,7 +28,7 @@ void DecideFastTick(const TickFrame& frame, IdleView& idle, std::string_view use
   }
   // 2.
   if (user.empty()) return idle.LoggedOut();
-  idle.LoggedIn();
+  idle.LoggedIn(user);
   // 3.
   SetTitleOfTick(view, transfer, frame.context);
   view.notification_shown = !transfer.in_progress || transfer.job == kJobScheduled;

@@ -30,6 +30,7 @@ IdleView::IdleView(StatusView& view, StatusMemory& memory, StatusEffects& effect
 void IdleView::GetNextTransferTime() {
   // 1.
   view_.user_name = Now().user;
+  memory_.idle_user = Now().user;
   // 2.
   if (!Now().has_schedule) return;
   const NextRun next = ReadNextRun();
@@ -105,6 +106,8 @@ void IdleView::LoggedOut() {
   view_.space_label_shown = false;
   view_.quota_bar_shown = false;
   view_.user_name.clear();
+  memory_.user.clear();
+  memory_.idle_user.clear();
   view_.quota_text.clear();
   view_.next_line.clear();
   view_.log_enabled = false;
@@ -114,7 +117,8 @@ void IdleView::LoggedOut() {
   view_.fast_timer = true;
 }
 
-void IdleView::LoggedIn() {
+void IdleView::LoggedIn(std::string_view user) {
+  view_.user_name = user;
   if (view_.user_label_shown) return;
   view_.user_label_shown = true;
   view_.notification_shown = true;
@@ -146,18 +150,17 @@ void IdleView::Decide(const TransferSnapshot& transfer) {
   ++memory_.refresh_tick_count;
   // 2.
   if (Now().user.empty()) return LoggedOut();
-  LoggedIn();
+  LoggedIn(Now().user);
   // 3.
   if (transfer.IsShownByEngine()) return GiveWay();
   // 4.
   if (transfer.in_progress) return ShowTransfer(transfer);
   // 5.
   view_.transfer_shown = false;
-  if (view_.user_name != Now().user) {
+  if (memory_.idle_user != Now().user) {
     SetStatusLine("");
     GetNextTransferTime();
   }
-  view_.user_name = Now().user;
   // 6.
   if (Now().quota.used > Now().quota.max && context_.product_number != 1)
     return ShowQuotaExceeded();

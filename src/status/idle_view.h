@@ -36,8 +36,8 @@ class IdleView {
   // Nobody is logged in.
   void LoggedOut();
 
-  // Somebody is logged in again.
-  void LoggedIn();
+  // `user` is logged in, perhaps again.
+  void LoggedIn(std::string_view user);
 
   // The slow tick's decision, see the steps inside.
   void Periodic(const TransferSnapshot& transfer);

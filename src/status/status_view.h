@@ -73,7 +73,8 @@ struct StatusMemory {
   std::int32_t refresh_tick_count = 0;  // slow ticks since the last periodic refresh
   bool recent_backup = false;  // RecentBackupFlag: the last backup ended less than 30 minutes ago
   bool force_refresh = false;  // ForceStatusRefresh of the state
-  std::string user;            // whose files the view was made from
+  std::string user;            // who was logged in at the last fast tick
+  std::string idle_user;       // whose idle view was made last; empty while none was
   friend bool operator==(const StatusMemory&, const StatusMemory&) = default;
 };
 

@@ -68,6 +68,7 @@ struct IdleFixture {
     now.decimal_separator = ".";
     // As after the first tick.
     view.user_name = "anna";
+    memory.idle_user = "anna";
     view.status_line = "before";
     view.next_line = "before";
   }

@@ -184,6 +184,7 @@ Expected ExpectedOf(const Case& c) {
 void Seed(const Case& c, IdleFixture& f) {
   f.now.user = c.user;
   f.view.user_name = c.user;
+  f.memory.idle_user = c.user;
   f.context.product_number = c.edition;
   if (c.quota == Quota::kUnknown) f.now.quota = {};
   if (c.quota == Quota::kFull) f.now.quota = {4096, 4096};

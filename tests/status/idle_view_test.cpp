@@ -253,6 +253,7 @@ TEST_F(IdleViewTest, TicksTheBoxFromItsSetting) {
 
 TEST_F(IdleViewTest, LoadsWithTheTimeOfTheNextRun) {
   view = {};
+  memory = {};
   Load();
   EXPECT_EQ(view.title, "Sorvane - Scheduled Backup Status");
   EXPECT_EQ(view.user_name, "anna");

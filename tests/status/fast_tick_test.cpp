@@ -1,0 +1,142 @@
+#include "status/fast_tick.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/status/idle_fixture.h"
+
+namespace status {
+namespace {
+
+class FastTickTest : public testing::Test, public IdleFixture {
+ protected:
+  FastTickTest() { memory.user = "anna"; }
+
+  void Fast() {
+    IdleView rules = Rules();
+    DecideFastTick({view, memory, effects, context}, rules, now.user, transfer);
+  }
+  void Transfer(std::string_view job, std::string_view status, std::int32_t value) {
+    transfer.in_progress = true;
+    transfer.backup = job == "3" ? "0" : "1";
+    transfer.restore = job == "3" ? "1" : "0";
+    transfer.job = job;
+    transfer.window_status = status;
+    transfer.window_value = value;
+  }
+};
+
+TEST_F(FastTickTest, ChangesOnlyTheTitleAtRest) {
+  view.title = "Sorvane - Scheduled Backup Status";
+  const StatusView before = view;
+  Fast();
+  EXPECT_EQ(view, before);
+  EXPECT_TRUE(effects.InOrder().empty());
+}
+
+TEST_F(FastTickTest, ReadsNothingOfTheIdleViewAtRest) {
+  int reads = 0;
+  IdleView rules(
+      view, memory, effects,
+      [&] {
+        ++reads;
+        return now;
+      },
+      context, schedule);
+  DecideFastTick({view, memory, effects, context}, rules, "anna", transfer);
+  EXPECT_EQ(reads, 0);
+}
+
+TEST_F(FastTickTest, NoticesAnotherUserDuringATransfer) {
+  Transfer("1", "0", 66304);
+  now.user = "bert";
+  Fast();
+  EXPECT_EQ(Traces(), (std::vector<std::string>{" [INFORMATION] User login has been changed "}));
+  EXPECT_EQ(view.user_name, "bert");
+  EXPECT_TRUE(view.transfer_shown);
+  Fast();
+  EXPECT_EQ(Traces().size(), 1u);
+}
+
+TEST_F(FastTickTest, TurnsToTheLoggedOutView) {
+  now.user = "";
+  now.has_schedule = false;
+  Fast();
+  EXPECT_EQ(view.status_line, context.texts.log_in);
+  EXPECT_FALSE(view.log_enabled);
+  EXPECT_TRUE(view.slow_timer && view.fast_timer);
+}
+
+struct TitleCase {
+  std::string_view job;
+  bool running;
+  std::string_view title;
+  bool notification;
+};
+
+constexpr TitleCase kTitles[] = {
+    {"", false, "Sorvane - Scheduled Backup Status", true},
+    {"1", false, "Sorvane - Scheduled Backup Status", true},
+    {"1", true, "Sorvane - Status", false},
+    {"3", true, "Sorvane - Status", false},
+    {"2", true, "as it was", true},
+    {"0", true, "as it was", false},
+};
+
+TEST_F(FastTickTest, SetsTheTitleAndTheBoxByTheJob) {
+  for (const TitleCase& one : kTitles) {
+    view.title = "as it was";
+    transfer = {};
+    if (one.running) Transfer(one.job, "0", 0);
+    transfer.job = one.job;
+    Fast();
+    EXPECT_EQ(view.title, one.title) << one.job;
+    EXPECT_EQ(view.notification_shown, one.notification) << one.job;
+  }
+}
+
+TEST_F(FastTickTest, ShowsTheTransferWhoseWindowIsHidden) {
+  Transfer("2", "0", 66304);
+  Fast();
+  EXPECT_TRUE(view.transfer_shown);
+  EXPECT_EQ(view.status_line, "");
+}
+
+TEST_F(FastTickTest, GivesWayToTheEnginesWindow) {
+  Transfer("1", "1", 66304);
+  Fast();
+  EXPECT_TRUE(effects.GivesWay());
+}
+
+TEST_F(FastTickTest, TellsOfATransferWithoutAWindow) {
+  Transfer("1", "0", 0);
+  transfer.rt_backup = 1;
+  Fast();
+  EXPECT_EQ(view.status_line, "Continuous Backup is in Progress...");
+  transfer.rt_backup = 0;
+  Fast();
+  EXPECT_EQ(view.status_line, context.texts.job_in_progress);
+  Transfer("3", "0", 0);
+  Fast();
+  EXPECT_EQ(view.status_line, "Backup will start in next 2 hour(s).");
+}
+
+TEST_F(FastTickTest, ClearsTheTextOfTheRunningJobWhenItHasEnded) {
+  view.transfer_shown = true;
+  view.status_line = context.texts.job_in_progress;
+  view.log_enabled = false;
+  Fast();
+  EXPECT_FALSE(view.transfer_shown);
+  EXPECT_EQ(view.status_line, "Backup will start in next 2 hour(s).");
+  EXPECT_TRUE(view.log_enabled);
+}
+
+TEST_F(FastTickTest, LeavesAnyOtherTextWhenTheTransferHasEnded) {
+  view.transfer_shown = true;
+  view.status_line = "4 files backed up.";
+  Fast();
+  EXPECT_FALSE(view.transfer_shown);
+  EXPECT_EQ(view.status_line, "4 files backed up.");
+}
+
+}  // namespace
+}  // namespace status
