@@ -14,8 +14,9 @@ Cell TitleBand(Frame& ground, Label& title, Picture& close) {
   title.SetDragsWindow(true);
   title.SetContainer(ground);
   close.SetContainer(ground);
-  return Pile({Item(ground), Line({Space(theme::kMargin - kTitlePadding - theme::kGap),
+  return Pile({Item(ground), Line({Space(theme::kMargin - kTitlePadding),
                                    Item(title).Width(kTitleWidth).Grow(), Item(close)})
+                                 .Gap(0)
                                  .Padding(kTitlePadding)});
 }
 

@@ -35,6 +35,7 @@ bool Control::Shown() const {
 }
 
 void Control::SetFocus() {
+  if (!form_.Visible()) form_.SetFirstStop(this);
   if (form_.Loaded()) form_.Host().SetFocus(*this);
 }
 

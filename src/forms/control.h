@@ -40,7 +40,7 @@ enum class ControlKind {
 // What changed of a control, for the host that shows it.
 enum class Property { kText, kVisible, kEnabled, kBounds, kLook, kValue, kItems };
 
-enum class Key { kEnter, kSpace, kEscape, kTab, kLeft, kRight, kUp, kDown, kOther };
+enum class Key { kEnter, kSpace, kEscape, kTab, kBackTab, kLeft, kRight, kUp, kDown, kOther };
 
 // The number of the child window of the control with this name: the same in every run and build, so
 // that a program outside can find the control. Two names of one form that meet are our bug.

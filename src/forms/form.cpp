@@ -9,6 +9,32 @@ bool CanTakeFocus(const Control& control) {
   return control.TabStop() && control.Shown() && control.Enabled();
 }
 
+// Buttons and links.
+bool IsPressed(const Control& control) {
+  return control.Kind() == ControlKind::kButton || control.Kind() == ControlKind::kLabel;
+}
+
+// Text of several lines takes the key as a line end.
+bool KeepsEnter(const Control& control) {
+  return control.Kind() == ControlKind::kTextBox &&
+         static_cast<const TextBox&>(control).Style() == TextBoxStyle::kSeveralLines;
+}
+
+bool MovesByArrows(const Control& control) {
+  if (control.Kind() == ControlKind::kTextBox) {
+    return static_cast<const TextBox&>(control).Style() == TextBoxStyle::kFocusCatcher;
+  }
+  return IsPressed(control) || control.Kind() == ControlKind::kRadioButton;
+}
+
+// The arrows go from one to the other.
+bool ArePeers(const Control& one, const Control& other) {
+  if (one.Kind() != other.Kind()) return false;
+  if (one.Kind() != ControlKind::kRadioButton) return true;
+  return static_cast<const RadioButton&>(one).Group() ==
+         static_cast<const RadioButton&>(other).Group();
+}
+
 bool MovesThings(Property property) {
   return property == Property::kText || property == Property::kVisible ||
          property == Property::kLook || property == Property::kItems;
@@ -144,10 +170,12 @@ bool Form::PressKey(Control* focused, Key key) {
   if (!enabled_) return false;
   if (focused && focused->on_key && focused->on_key(key)) return true;
   if (on_key && on_key(key)) return true;
+  return ClickByKey(focused, key) || MoveByKey(focused, key);
+}
 
-  const bool on_button = focused && (focused->Kind() == ControlKind::kButton ||
-                                     focused->Kind() == ControlKind::kLabel);
-  if (on_button && (key == Key::kEnter || key == Key::kSpace)) {
+bool Form::ClickByKey(Control* focused, Key key) {
+  if (key == Key::kEnter && focused && KeepsEnter(*focused)) return false;
+  if (focused && IsPressed(*focused) && (key == Key::kEnter || key == Key::kSpace)) {
     focused->Click();
     return true;
   }
@@ -160,6 +188,31 @@ bool Form::PressKey(Control* focused, Key key) {
     return true;
   }
   return false;
+}
+
+bool Form::MoveByKey(Control* focused, Key key) {
+  const bool backwards = key == Key::kBackTab || key == Key::kLeft || key == Key::kUp;
+  if (key == Key::kTab || key == Key::kBackTab) {
+    Control* const next = NextStop(focused, backwards);
+    if (next) next->SetFocus();
+    return next != nullptr;
+  }
+  const bool is_arrow = backwards || key == Key::kRight || key == Key::kDown;
+  if (!is_arrow || !focused || !MovesByArrows(*focused)) return false;
+  Control* next = NextStop(focused, backwards);
+  for (std::size_t tries = 0; next && !ArePeers(*focused, *next) && tries < controls_.size();
+       ++tries) {
+    next = NextStop(next, backwards);
+  }
+  // The key is used up where there is nothing to go to.
+  if (!next || next == focused || !ArePeers(*focused, *next)) return true;
+  next->SetFocus();
+  if (next->Kind() == ControlKind::kRadioButton) next->Click();
+  return true;
+}
+
+Control* Form::FirstStop() const {
+  return first_stop_ && CanTakeFocus(*first_stop_) ? first_stop_ : NextStop(nullptr, false);
 }
 
 Control* Form::NextStop(const Control* from, bool backwards) const {

@@ -99,12 +99,18 @@ class Form {
   bool NeedsArranging() const { return needs_arranging_; }
 
   // What a key does in this window, the keyboard being on `focused` (may be null), in this order:
-  // the control's on_key; the form's on_key; Enter or Space on a button clicks it; Enter the
-  // default button; Escape the cancel button. True when it was used up.
+  // the control's on_key; the form's on_key; Enter or Space on a button or link clicks it; Enter
+  // the default button; Escape the cancel button; Tab and, on buttons and choices, the arrows move
+  // on. True when it was used up.
   bool PressKey(Control* focused, Key key);
 
   // The control that Tab goes to from `from` (null: the first), null when there is none.
   Control* NextStop(const Control* from, bool backwards) const;
+
+  // Where the keyboard is when the window comes up: where SetFocus put it before, else the first
+  // stop.
+  Control* FirstStop() const;
+  void SetFirstStop(Control* control) { first_stop_ = control; }
 
   // How often a property of the form or of a control really changed.
   int Changes() const { return changes_; }
@@ -131,6 +137,8 @@ class Form {
 
  private:
   void SetState(WindowState state);
+  bool ClickByKey(Control* focused, Key key);
+  bool MoveByKey(Control* focused, Key key);
 
   FormHost& host_;
   const FormDesign design_;
@@ -146,6 +154,7 @@ class Form {
   std::vector<Timer*> timers_;
   std::optional<Cell> layout_;
   bool needs_arranging_ = true;
+  Control* first_stop_ = nullptr;
   int changes_ = 0;
 };
 

@@ -12,6 +12,11 @@ constexpr int kListHeight = 160;
 constexpr int kCatcherSize = 1;
 constexpr int kNaturalFieldWidth = 160;
 
+bool Wraps(const Control& control) {
+  return control.Kind() == ControlKind::kLabel || control.Kind() == ControlKind::kCheckBox ||
+         control.Kind() == ControlKind::kRadioButton;
+}
+
 // Works out sizes and places of one window.
 class Arranger {
  public:
@@ -90,6 +95,7 @@ int Arranger::NaturalWidth(const Cell& cell) const {
   int width = 0;
   if (cell.flow == Flow::kItem) {
     width = ItemSize(*cell.control, 0).width;
+    if (Wraps(*cell.control)) width = std::min(width, theme::kWidestText);
     // A text that may grow into the room takes what it gets and wraps.
     if (cell.grows && cell.width > 0) width = cell.width;
   }

@@ -45,6 +45,7 @@ inline constexpr Font kLinkFont = {9, false, true};
 
 inline constexpr int kMargin = 16;        // between a window's edge and what is in it
 inline constexpr int kGap = 8;            // between neighbours
+inline constexpr int kWidestText = 440;   // a longer line wraps unless its window is wider anyway
 inline constexpr int kCornerRadius = 10;  // of windows
 inline constexpr int kButtonRadius = 5;
 inline constexpr int kButtonHeight = 30;

@@ -79,9 +79,7 @@ void Host::Type(std::string_view form, std::string_view control, std::string_vie
 void Host::Press(std::string_view form, Key key) {
   Form* const found = Find(form);
   if (!found) std::abort();
-  Loaded* const loaded = LoadedForm(*found);
-  if (found->PressKey(loaded->focus, key) || key != Key::kTab) return;
-  GiveFocus(*loaded, found->NextStop(loaded->focus, false));
+  found->PressKey(LoadedForm(*found)->focus, key);
 }
 
 void Host::MoveOver(std::string_view form, std::string_view control, Point place) {

@@ -38,7 +38,7 @@ class Host final : public FormHost {
   void Click(std::string_view form, std::string_view control);
   const std::string& Read(std::string_view form, std::string_view control);
   void Type(std::string_view form, std::string_view control, std::string_view text);
-  // A key at the control that has the keyboard; Tab moves on.
+  // A key at the control that has the keyboard.
   void Press(std::string_view form, Key key);
   // The mouse moves over a control.
   void MoveOver(std::string_view form, std::string_view control, Point place = {});

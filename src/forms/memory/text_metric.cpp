@@ -22,9 +22,14 @@ class Measurer {
         width_(width) {}
 
   void AddWord(int characters, bool behind_blank) {
+    int word = characters * character_;
     const int blank = behind_blank && line_ > 0 ? character_ : 0;
-    const int word = characters * character_;
     if (width_ > 0 && line_ > 0 && line_ + blank + word > width_) EndLine();
+    const int whole_line = width_ / character_ * character_;
+    for (; width_ > 0 && whole_line > 0 && word > width_; word -= whole_line) {
+      line_ = whole_line;
+      EndLine();
+    }
     line_ += (line_ > 0 ? blank : 0) + word;
   }
   void EndLine() {

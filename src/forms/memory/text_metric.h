@@ -9,7 +9,7 @@
 namespace forms::memory {
 
 // Wrapped between words at `width` units (0: not wrapped); lines end at line feeds. A word that is
-// wider than that makes the text wider.
+// wider than that is broken.
 Size MeasureText(std::string_view text, Font font, int width);
 
 }  // namespace forms::memory

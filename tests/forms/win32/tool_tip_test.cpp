@@ -1,0 +1,80 @@
+#include <windows.h>
+
+#include <commctrl.h>
+#include <gtest/gtest.h>
+#include "forms/cls_tool_tip.h"
+#include "tests/forms/sample_form.h"
+#include "tests/forms/win32/real_screen.h"
+
+namespace forms {
+namespace {
+
+using testing::ClassOf;
+using testing::frmSample;
+using testing::RealScreen;
+
+class RealToolTipTest : public ::testing::Test {
+ protected:
+  RealToolTipTest() {
+    form_.Show();
+    created_ = tip_.Create(form_.Window());
+  }
+  HWND Tip() const { return reinterpret_cast<HWND>(tip_.ToolTipHandle()); }
+
+  RealScreen screen_;
+  frmSample form_{screen_.host};
+  clsToolTip tip_{screen_.host};
+  bool created_ = false;
+};
+
+TEST_F(RealToolTipTest, IsTheSystemsControlAndAlwaysOnTop) {
+  ASSERT_TRUE(created_);
+  EXPECT_EQ(ClassOf(Tip()), TOOLTIPS_CLASSA);
+  EXPECT_NE(GetWindowLongPtrA(Tip(), GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
+}
+
+TEST_F(RealToolTipTest, AddsRenamesAndRemovesTools) {
+  EXPECT_TRUE(tip_.AddTool(form_.cmdOk.Window(), "OK"));
+  EXPECT_TRUE(tip_.AddTool(form_.imgClose.Window(), "Close"));
+  EXPECT_EQ(tip_.ToolTipCount(), 2);
+  EXPECT_EQ(tip_.ToolTipText(form_.imgClose.Window()), "Close");
+  tip_.SetToolTipText(form_.imgClose.Window(), "Hide");
+  EXPECT_EQ(tip_.ToolTipText(form_.imgClose.Window()), "Hide");
+  tip_.RemoveToolTip(form_.imgClose.Window());
+  EXPECT_EQ(tip_.ToolTipCount(), 1);
+}
+
+TEST_F(RealToolTipTest, WrapsAtItsWidthAndStaysWhileTheMouseRests) {
+  tip_.SetMaxTipWidth(100);
+  tip_.SetDelayTime(TipDelay::kInitial, 300);
+  EXPECT_EQ(SendMessageA(Tip(), TTM_GETMAXTIPWIDTH, 0, 0), 100);
+  EXPECT_EQ(tip_.DelayTime(TipDelay::kInitial), 300);
+}
+
+TEST_F(RealToolTipTest, TakesColoursMarginsAndShape) {
+  tip_.SetBackColor(theme::kAccent);
+  tip_.SetForeColor(theme::kOnAccent);
+  tip_.Margins(4, 5, 6, 7);
+  tip_.SetBalloon(true);
+  EXPECT_EQ(SendMessageA(Tip(), TTM_GETTIPBKCOLOR, 0, 0), static_cast<LRESULT>(theme::kAccent));
+  EXPECT_EQ(SendMessageA(Tip(), TTM_GETTIPTEXTCOLOR, 0, 0), static_cast<LRESULT>(theme::kOnAccent));
+  RECT margins = {};
+  SendMessageA(Tip(), TTM_GETMARGIN, 0, reinterpret_cast<LPARAM>(&margins));
+  EXPECT_EQ(margins.left, 4);
+  EXPECT_EQ(margins.bottom, 7);
+  EXPECT_NE(GetWindowLongPtrA(Tip(), GWL_STYLE) & TTS_BALLOON, 0);
+}
+
+TEST_F(RealToolTipTest, GoesWithItsObject) {
+  HWND window = nullptr;
+  {
+    clsToolTip other(screen_.host);
+    ASSERT_TRUE(other.Create(form_.Window()));
+    window = reinterpret_cast<HWND>(other.ToolTipHandle());
+    EXPECT_TRUE(IsWindow(window));
+  }
+  EXPECT_FALSE(IsWindow(window));
+}
+
+}  // namespace
+}  // namespace forms
