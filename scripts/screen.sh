@@ -40,7 +40,9 @@ boot_wine_prefix() {
     wineboot -i &&
       wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d shell /f &&
       wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v shell /d 1024x768 /f &&
-      wineserver -w
+      wineserver -w &&
+      # The pictures of title bars are letters of this font, which Wine does not find by itself.
+      cp /usr/share/wine/fonts/marlett.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
   } >build/logs/wineboot.log 2>&1
 }
 

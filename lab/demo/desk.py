@@ -1,11 +1,14 @@
 """A desktop to work at: programs under Wine, the real mouse and keyboard, pictures of the screen,
 and what the observer tells of icons and windows. Nothing here knows what any program should do."""
 
+import io
 import os
 import subprocess
 import threading
 import time
 from dataclasses import dataclass, field
+
+from PIL import Image
 
 
 @dataclass
@@ -96,6 +99,28 @@ class Desk:
 
     def photograph(self, path):
         subprocess.run(["import", "-window", "root", path], check=True)
+
+    def text_rows(self, place):
+        """The places of the lines of text in a menu, from its pixels: dark rows parted by light
+        ones; a line that goes from edge to edge is a separator."""
+        left, top, right, bottom = place
+        shot = subprocess.run(["import", "-window", "root", "png:-"], check=True,
+                              stdout=subprocess.PIPE).stdout
+        image = Image.open(io.BytesIO(shot)).convert("L").crop((left + 4, top + 4, right - 4, bottom - 4))
+        width, height = image.size
+        paper = image.getpixel((0, 0))
+        inked = [sum(abs(image.getpixel((x, y)) - paper) > 40 for x in range(width))
+                 for y in range(height)]
+        rows, start = [], None
+        for y, ink in enumerate([*inked, 0]):
+            has_text = 0 < ink < width * 0.9
+            if has_text and start is None:
+                start = y
+            elif not has_text and start is not None:
+                if y - start > 3:
+                    rows.append((left, top + 4 + start, right, top + 4 + y))
+                start = None
+        return rows
 
     # Mouse and keyboard.
 

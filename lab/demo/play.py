@@ -14,6 +14,10 @@ from timeline import Timeline
 
 MAIN_FORM = "frmTVWinService"
 MENU = "#32768"
+MENU_ITEMS = (
+    "Status", "Schedule Backup", "Explorer", "Activity Log", "Web Management", "Continuous Backup",
+    "Stop Scheduled Backup", "Disable Automatic Backup", "Manage all the Scheduled Jobs",
+    "Backup Now", "Check for Updates", "Send Error Report", "Help", "Exit")
 NORMAL, RUNNING, DONE = "tvlog.ico", "tvlogyellow.ico", "tvloggreen.ico"
 
 
@@ -120,10 +124,16 @@ class Demo:
         if photograph:
             self.timeline.photograph("menu", "the menu")
 
+    def choose(self, item):
+        rows = self.desk.text_rows(self.desk.window(MENU).place)
+        if len(rows) != len(MENU_ITEMS):
+            raise LookupError(f"the menu shows {len(rows)} items, not {len(MENU_ITEMS)}")
+        self.timeline.tell("person", f'chooses "{item}"')
+        self.desk.click(rows[MENU_ITEMS.index(item)])
+
     def answer_a_question(self):
         self.open_menu(photograph=True)
-        self.timeline.tell("person", 'chooses "Web Management"')
-        self.desk.key("w")
+        self.choose("Web Management")
         self.wait_for_window("frmGeneralMessage")
         self.timeline.photograph("message", "the product's own message box")
         self.timeline.tell("person", 'presses "Cancel"')
@@ -141,8 +151,7 @@ class Demo:
 
     def end(self):
         self.open_menu()
-        self.timeline.tell("person", 'chooses "Exit"')
-        self.desk.key("x")
+        self.choose("Exit")
         wait_for("the icon goes", lambda: not self.desk.icons())
         time.sleep(1)
         self.timeline.photograph("ended", "the agent has ended and taken its icon along")

@@ -40,6 +40,7 @@ class SharedFiles:
     def __init__(self, folder, tell):
         self._folder = Path(folder)
         self._tell = tell
+        self._texts = {}
         self._texts = self._snapshot()
         self._inis = {}
         self._notes_read = 0
@@ -68,11 +69,24 @@ class SharedFiles:
             if (path.suffix.lower() not in (".ini", ".txt") or path.name.lower() in QUIET
                     or name.split("/")[0].lower() in QUIET_FOLDERS):
                 continue
-            try:
-                texts[name] = path.read_bytes().decode("cp1252", "replace")
-            except OSError:
-                pass
+            text = self._read(path)
+            if text is None and path.exists():
+                text = self._texts.get(name)
+            if text is not None:
+                texts[name] = text
         return texts
+
+    @staticmethod
+    def _read(path):
+        """The content, or nothing while somebody is writing it anew."""
+        try:
+            before = path.read_bytes()
+            time.sleep(0.005)
+            if before != path.read_bytes() or (not before and path.suffix.lower() == ".ini"):
+                return None
+            return before.decode("cp1252", "replace")
+        except OSError:
+            return None
 
     def _look(self):
         texts = self._snapshot()
@@ -104,7 +118,7 @@ class SharedFiles:
             self._tell(self._writer(name, "", "remove"), f"{name} is deleted")
             return
         what = "is made" if before is None else "changes"
-        who = self._writer(name, "", "replace") 
+        who = self._writer(name, "", "replace")
         if who == "agent":
             who = self._writer(name, "", "append")
         first = now.split("\r\n", 1)[0].replace("\b\b", " | ")

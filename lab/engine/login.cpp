@@ -25,6 +25,8 @@ void LogIn(const Ports& ports, platform::Registry& registry, const Places& place
   ports.profile_files.WriteText(machine_ini, shared::sections::kRegistry,
                                 shared::keys::kDefaultUserName, Stored(user));
   ports.profile_files.WriteText(machine_ini, shared::sections::kRegistry, shared::keys::kTray, "0");
+  ports.profile_files.WriteText(machine_ini, shared::sections::kTolvex, shared::keys::kInteractive,
+                                user);
   // Nothing runs, and the background process may be started.
   ports.profile_files.WriteText(machine_ini, shared::sections::kTolvex, shared::keys::kStandard,
                                 "1");
@@ -36,6 +38,7 @@ void LogIn(const Ports& ports, platform::Registry& registry, const Places& place
   } settings[] = {{shared::keys::kUserName, user},
                   {shared::keys::kPassword, "secret"},
                   {shared::keys::kAuthenticated, "1"},
+                  {shared::keys::kFirstUser, "FALSE"},
                   {shared::keys::kScheduleDisable, "FALSE"}};
   for (const auto& setting : settings) {
     ports.profile_files.WriteText(places.Profile(user), shared::sections::kTolvex,

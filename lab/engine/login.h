@@ -8,7 +8,8 @@
 
 namespace lab {
 
-// Logs the user in, making the folder where it is missing. Other values of the profile stay.
+// Logs in a user who is no new one, making the folder where it is missing. Other values of the
+// profile stay.
 void LogIn(const Ports& ports, platform::Registry& registry, const Places& places,
            std::string_view user);
 

@@ -12,6 +12,7 @@ namespace {
 
 constexpr char kTaskBarClass[] = "Shell_TrayWnd";
 constexpr std::size_t kMostText = 256;  // characters
+constexpr DWORD kShellStart = 1500;     // milliseconds that a shell takes to come up
 
 // A piece of memory in another process.
 class RemoteMemory {
@@ -98,6 +99,7 @@ void RenewShell(HWND icon_owner) {
   icon.cbSize = NOTIFYICONDATAA_V1_SIZE;
   icon.hWnd = icon_owner;
   Shell_NotifyIconA(NIM_DELETE, &icon);
+  Sleep(kShellStart);
   PostMessageA(HWND_BROADCAST, RegisterWindowMessageA("TaskbarCreated"), 0, 0);
 }
 

@@ -5,6 +5,7 @@
 
 namespace lab {
 
+// Every note comes before the write: a watcher that sees the change finds it there.
 WriteNotes::WriteNotes(std::string install_folder, std::string program)
     : install_folder_(std::move(install_folder)), program_(std::move(program)) {}
 
@@ -33,42 +34,44 @@ std::int32_t NotedProfileFiles::ReadInt(std::string_view file, std::string_view 
   return files_.ReadInt(file, section, key);
 }
 
-// The note comes first: a watcher that sees the new value finds it there.
 bool NotedProfileFiles::WriteText(std::string_view file, std::string_view section,
                                   std::string_view key, std::string_view value) {
   notes_.Note(file, section, key, value);
   return files_.WriteText(file, section, key, value);
 }
 
-bool NotedFiles::Noted(bool done, std::string_view path, std::string_view what) {
-  if (done) notes_.Note(path, "", what, "");
-  return done;
+void NotedFiles::Note(std::string_view path, std::string_view what) {
+  notes_.Note(path, "", what, "");
 }
 
 bool NotedFiles::Replace(std::string_view path, std::string_view bytes) {
-  notes_.Note(path, "", "replace", "");
+  Note(path, "replace");
   return files_.Replace(path, bytes);
 }
 
 bool NotedFiles::AppendUtf16Line(std::string_view path, std::string_view line) {
-  notes_.Note(path, "", "append", "");
+  Note(path, "append");
   return files_.AppendUtf16Line(path, line);
 }
 
 bool NotedFiles::Remove(std::string_view path) {
-  return Noted(files_.Remove(path), path, "remove");
+  Note(path, "remove");
+  return files_.Remove(path);
 }
 
 bool NotedFiles::Copy(std::string_view from, std::string_view to) {
-  return Noted(files_.Copy(from, to), to, "replace");
+  Note(to, "replace");
+  return files_.Copy(from, to);
 }
 
 bool NotedFiles::MakeFolder(std::string_view path) {
-  return Noted(files_.MakeFolder(path), path, "folder");
+  Note(path, "folder");
+  return files_.MakeFolder(path);
 }
 
 bool NotedFiles::RemoveFolder(std::string_view path) {
-  return Noted(files_.RemoveFolder(path), path, "remove");
+  Note(path, "remove");
+  return files_.RemoveFolder(path);
 }
 
 }  // namespace lab

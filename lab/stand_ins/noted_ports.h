@@ -67,7 +67,7 @@ class NotedFiles : public platform::Files {
   }
 
  private:
-  bool Noted(bool done, std::string_view path, std::string_view what);
+  void Note(std::string_view path, std::string_view what);
 
   platform::Files& files_;
   const WriteNotes& notes_;
