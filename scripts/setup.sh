@@ -2,7 +2,7 @@
 # Works as root or through sudo, without a terminal.
 
 declare -A packages=(
-  [build]="g++ cmake ninja-build ccache g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix python3 python3-pil"
+  [build]="g++ cmake ninja-build ccache g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix python3"
   [test]="libgtest-dev googletest"
   [screen]="wine wine64 xvfb xdotool imagemagick x11-utils fonts-wine fonts-liberation"
   [bench]="libbenchmark-dev"

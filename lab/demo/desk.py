@@ -1,14 +1,11 @@
 """A desktop to work at: programs under Wine, the real mouse and keyboard, pictures of the screen,
 and what the observer tells of icons and windows. Nothing here knows what any program should do."""
 
-import io
 import os
 import subprocess
 import threading
 import time
 from dataclasses import dataclass, field
-
-from PIL import Image
 
 
 @dataclass
@@ -104,13 +101,13 @@ class Desk:
         """The places of the lines of text in a menu, from its pixels: dark rows parted by light
         ones; a line that goes from edge to edge is a separator."""
         left, top, right, bottom = place
-        shot = subprocess.run(["import", "-window", "root", "png:-"], check=True,
-                              stdout=subprocess.PIPE).stdout
-        image = Image.open(io.BytesIO(shot)).convert("L").crop((left + 4, top + 4, right - 4, bottom - 4))
-        width, height = image.size
-        paper = image.getpixel((0, 0))
-        inked = [sum(abs(image.getpixel((x, y)) - paper) > 40 for x in range(width))
-                 for y in range(height)]
+        width, height = right - left - 8, bottom - top - 8
+        pixels = subprocess.run(
+            ["import", "-window", "root", "-crop", f"{width}x{height}+{left + 4}+{top + 4}",
+             "-colorspace", "gray", "-depth", "8", "gray:-"],
+            check=True, stdout=subprocess.PIPE).stdout
+        lines = [pixels[y * width:(y + 1) * width] for y in range(height)]
+        inked = [sum(abs(pixel - pixels[0]) > 40 for pixel in line) for line in lines]
         rows, start = [], None
         for y, ink in enumerate([*inked, 0]):
             has_text = 0 < ink < width * 0.9
