@@ -39,7 +39,8 @@ std::optional<std::size_t> RecordStore::ReadScheduleTable(std::string_view recor
     return std::nullopt;
   }
   if (!*found) return 0;
-  const std::size_t records = std::min(state_.ScheduleCount, lines.size());
+  const std::size_t stored = record_no.empty() ? lines.size() : 1;
+  const std::size_t records = std::min(state_.ScheduleCount, stored);
   for (std::size_t at = 0; at < records; ++at) {
     // 5.
     shared::ScheduleRecord& record = state_.ScheduleTable[at];
