@@ -35,7 +35,7 @@ class Journal {
 
   // The texts of one category that are the agent's doing, in order.
   std::vector<std::string> Excerpt(std::string_view category) const;
-  // The same whoever did it, and of several categories: "<category> <text>".
+  // The lines of several categories, whoever did it: "<category> <text>".
   std::vector<std::string> Excerpt(const std::vector<std::string_view>& categories) const;
   // Entries of the category, by anybody, whose text contains `part`.
   std::size_t Count(std::string_view category, std::string_view part = {}) const;

@@ -70,7 +70,10 @@ bool MemoryFiles::Copy(std::string_view from, std::string_view to) {
   bool done = !world_.gate.Fails("files.Copy", from);
   const DiskNode* source = done ? disk_.FindReadable(from) : nullptr;
   done = source != nullptr && disk_.MayWrite(to);
-  if (done) disk_.SetContent(to, std::string(source->bytes));
+  if (done) {
+    const std::int64_t modified = source->modified;
+    disk_.SetContent(to, std::string(source->bytes)).modified = modified;
+  }
   return Note(done, "copy " + std::string(from) + " to " + std::string(to));
 }
 

@@ -56,8 +56,10 @@ void Timeline::Pump() {
   bool idle = true;
   Ticked ticked;
   while (Pumps() && RunAgentStep(&ticked)) idle = false;
+  if (now_ != pumped_at_) idle_pumps_ = 0;
+  pumped_at_ = now_;
   if (idle && ++idle_pumps_ > kBusyPumps) {
-    ++now_;
+    pumped_at_ = ++now_;
     CountStep();
   }
 }
@@ -166,7 +168,6 @@ bool Timeline::RunAgentStep(Ticked* ticked) {
     if (item && ticked != nullptr && !ticked->insert(item->id).second) return true;
   }
   if (!item) return false;
-  idle_pumps_ = 0;
   if (!CountStep()) return false;
   item->run();
   return true;

@@ -117,7 +117,8 @@ class Timeline {
   bool has_horizon_ = false;
   std::uint64_t steps_ = 0;
   std::uint64_t step_limit_ = 20'000'000;
-  std::uint64_t idle_pumps_ = 0;
+  std::uint64_t pumped_at_ = 0;
+  std::uint64_t idle_pumps_ = 0;  // in this instant
   bool quit_ = false;
   bool ended_ = false;
   bool ran_away_ = false;
