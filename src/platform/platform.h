@@ -6,6 +6,7 @@
 #include "platform/clock.h"
 #include "platform/events.h"
 #include "platform/files.h"
+#include "platform/internet.h"
 #include "platform/libraries.h"
 #include "platform/locale.h"
 #include "platform/other_windows.h"
@@ -33,6 +34,7 @@ struct Platform {
   Locale& locale;
   Libraries& libraries;
   Random& random;
+  Internet& internet;
 };
 
 }  // namespace platform

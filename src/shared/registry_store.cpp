@@ -199,6 +199,7 @@ void RegistryStore::ResetDialUpAutoConnect() {
   const std::string entry = clsTransfer(machine_, state_).Trf_ReadUserProfile(keys::kIspName);
   SetKeyValue(std::string(registry::kDialUpProfiles).append(entry), registry::kDialUpAutoConnect,
               NumberValue(1));
+  machine_.internet.RefreshSettings();
 }
 
 RegistryResult RegistryStore::ReadUserValue(std::string_view key, std::string_view name) {

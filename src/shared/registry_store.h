@@ -52,7 +52,8 @@ class RegistryStore {
   // `Version` of `Application`: the installed version; "" when missing.
   std::string ReadApplicationVersion();
 
-  // Makes the dial-up entry of the profile's `ISPName` connect by itself.
+  // Makes the dial-up entry of the profile's `ISPName` connect by itself, and has the system's
+  // internet settings read anew.
   void ResetDialUpAutoConnect();
 
  private:

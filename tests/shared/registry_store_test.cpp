@@ -177,6 +177,7 @@ TEST_F(RegistryStoreTest, LetsTheDialUpEntryConnectByItself) {
   EXPECT_EQ(
       machine_.registry().Number(Hive::kCurrentUser, "RemoteAccess\\Profile\\Net 1", "AutoConnect"),
       1u);
+  EXPECT_EQ(machine_.journal().Count("internet", "refresh settings"), 1u);
 }
 
 }  // namespace

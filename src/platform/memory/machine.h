@@ -140,9 +140,10 @@ class Machine {
   MemoryLocale locale_{world_};
   MemoryLibraries libraries_{world_, disk_};
   MemoryRandom random_;
+  MemoryInternet internet_{world_};
   AgentWindow agent_window_;
-  Platform platform_{files_, profile_files_, registry_, processes_, services_,  shell_, windows_,
-                     clock_, events_,        power_,    locale_,    libraries_, random_};
+  Platform platform_{files_, profile_files_, registry_, processes_, services_,  shell_,  windows_,
+                     clock_, events_,        power_,    locale_,    libraries_, random_, internet_};
 };
 
 }  // namespace platform::memory

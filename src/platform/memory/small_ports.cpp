@@ -204,6 +204,12 @@ MemoryLibraries::Library& MemoryLibraries::Make(std::string_view path) {
   return libraries_[full];
 }
 
+bool MemoryInternet::RefreshSettings() {
+  if (world_.gate.Fails("internet.RefreshSettings")) return false;
+  world_.Note("internet", "refresh settings");
+  return true;
+}
+
 double MemoryRandom::Next() {
   world_.gate.Fails("random.Next");
   if (!scripted_.empty()) {

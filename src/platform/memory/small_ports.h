@@ -1,8 +1,10 @@
 // The ports of the machine in memory that need no more than a few lines: services, clock, events,
-// power, locale, libraries, chance.
+// power, locale, libraries, chance, internet.
 //
 // Gate names "<port>.<Function>", about the name asked for. Journal: categories "power" ("state
-// <flags in hex>"), "library" ("call <file>.<function>(<argument>)") and "exit" ("quit").
+// <flags in hex>"), "library" ("call <file>.<function>(<argument>)"), "exit" ("quit") and
+// "internet"
+// ("refresh settings").
 #pragma once
 
 #include <cstdint>
@@ -15,6 +17,7 @@
 
 #include "platform/clock.h"
 #include "platform/events.h"
+#include "platform/internet.h"
 #include "platform/libraries.h"
 #include "platform/locale.h"
 #include "platform/memory/disk.h"
@@ -138,6 +141,16 @@ class MemoryLibraries : public Libraries {
   World& world_;
   Disk& disk_;
   std::map<std::string, Library, IgnoreCaseLess> libraries_;
+};
+
+class MemoryInternet : public Internet {
+ public:
+  explicit MemoryInternet(World& world) : world_(world) {}
+
+  bool RefreshSettings() override;
+
+ private:
+  World& world_;
 };
 
 class MemoryRandom : public Random {

@@ -15,6 +15,7 @@ Machine::Machine()
                 .power = power_,
                 .locale = locale_,
                 .libraries = libraries_,
-                .random = random_} {}
+                .random = random_,
+                .internet = internet_} {}
 
 }  // namespace platform::win32

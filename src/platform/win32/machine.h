@@ -5,6 +5,7 @@
 #include "platform/win32/clock.h"
 #include "platform/win32/events.h"
 #include "platform/win32/files.h"
+#include "platform/win32/internet.h"
 #include "platform/win32/libraries.h"
 #include "platform/win32/locale.h"
 #include "platform/win32/other_windows.h"
@@ -43,6 +44,7 @@ class Machine {
   Locale locale_;
   Libraries libraries_;
   Random random_;
+  Internet internet_;
   Platform platform_;
 };
 
