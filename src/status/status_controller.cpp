@@ -22,6 +22,9 @@ StatusController::StatusController(platform::Platform& machine, shared::AgentSta
       trace_(machine, state) {}
 
 void StatusController::Load() {
+  view_ = {};
+  memory_ = {};
+  sliding_.reset();
   const StatusContext context = ReadStatusContext(machine_, state_);
   StatusEffects effects;
   TakeForceRefresh();
@@ -84,7 +87,7 @@ void StatusController::ViewLogClick() {
 void StatusController::CloseClick() {
   if (channel_.IsTransferInProgress()) TraceLine("Exiting without reset");
   view_.fast_timer = false;
-  screen_.Render(view_);
+  Render();
   screen_.Unload();
 }
 
@@ -108,8 +111,14 @@ void StatusController::Finish(const StatusEffects& effects) {
     links_.commands.DisableStatusEntry();
     screen_.Unload();
   } else {
-    screen_.Render(view_);
+    Render();
   }
+}
+
+// A tick does not move the slider under the hand that holds it.
+void StatusController::Render() {
+  if (sliding_) view_.transfer.bandwidth.value = *sliding_;
+  screen_.Render(view_);
 }
 
 // All that a decision writes is written here.

@@ -1,12 +1,15 @@
 // What the status window does: its two ticks and its buttons, from the shared files to the view and
 // back.
 //
-// One for each loading of the window; it outlives nothing but the window. Files touched: those of
-// ProgressChannel, UserName.ini (`Registry`) and the profile (`Tolvex`) for the bandwidth, the tray
-// trace.
+// It lives as long as the window's object and starts afresh at each load, so that a handler that is
+// still under way when the window is loaded anew (behind a question, say) finds it whole. Files
+// touched: those of ProgressChannel, UserName.ini (`Registry`) and the profile (`Tolvex`) for the
+// bandwidth, the tray trace.
 #pragma once
 
 #include <cstdint>
+#include <optional>
+#include <string>
 #include <string_view>
 
 #include "platform/platform.h"
@@ -72,6 +75,7 @@ class StatusController {
   IdleView MakeIdleView(StatusEffects& effects, const StatusContext& context);
   TransferSnapshot ReadTransfer();
   void Finish(const StatusEffects& effects);
+  void Render();
   void Apply(const StatusEffects& effects);
   void TraceLine(std::string_view line);
   void TakeForceRefresh() { memory_.force_refresh = state_.ForceStatusRefresh; }
@@ -89,6 +93,7 @@ class StatusController {
   shared::Trace trace_;
   StatusView view_;
   StatusMemory memory_;
+  std::optional<std::int16_t> sliding_;  // the value under the hand that holds the slider
 };
 
 }  // namespace status

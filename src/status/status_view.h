@@ -9,9 +9,6 @@ namespace status {
 
 enum class QuotaColour { kGreen, kRed };
 
-// Width of the overall line of a transfer: as designed, 200 twips wider, or 4800 twips.
-enum class OverallWidth { kDesign, kWider, kRestore };
-
 // Bandwidth and auto-pause of the transfer.
 struct BandwidthPanel {
   bool shown = true;
@@ -30,7 +27,6 @@ struct TransferPanel {
   std::string file_path;     // one line, or two
   std::string overall;
   bool overall_red = false;
-  OverallWidth overall_width = OverallWidth::kDesign;
   std::string transfer_rate;
   std::string time_estimated;
   std::string time_elapsed;

@@ -35,7 +35,7 @@ void StatusController::RefreshTransfer() {
   const TransferSnapshot transfer = ReadTransfer();
   RefreshProgressView(view_, transfer, ReadStatusContext(machine_, state_));
   ShowBandwidthSlider(view_.transfer.bandwidth, transfer);
-  screen_.Render(view_);
+  Render();
 }
 
 void StatusController::CancelClick() {
@@ -72,7 +72,7 @@ void StatusController::CancelClick() {
   TraceLine("Backup or restore progress canceled.");
   view_.slow_timer = false;
   view_.fast_timer = false;
-  screen_.Render(view_);
+  Render();
   screen_.Unload();
 }
 
@@ -100,7 +100,7 @@ void StatusController::ResetStatusWindow() {
   view_.pause_shown = false;
   view_.slow_timer = false;
   view_.fast_timer = false;
-  screen_.Render(view_);
+  Render();
   // 4. The wait is the engine's time to see the request.
   channel_.WriteBackupStatus(kCancel, "1");
   channel_.WriteBackupStatus(kPaused, "0");
@@ -123,7 +123,7 @@ void StatusController::ReturnToIdle() {
   view_.notification_shown = true;
   view_.slow_timer = true;
   view_.fast_timer = true;
-  screen_.Render(view_);
+  Render();
 }
 
 void StatusController::AutoPauseClick() {
@@ -135,7 +135,7 @@ void StatusController::AutoPauseClick() {
       turn_on ? IdleBandwidthValue(now.bandwidth_idle_state) : BandwidthValue(now.bandwidth);
   if (turn_on) panel.enabled = true;
   StoreBandwidth(turn_on, panel.value);
-  screen_.Render(view_);
+  Render();
 }
 
 // Both stores, the profile first. With auto-pause on both values of the profile are the idle one,
@@ -155,11 +155,12 @@ void StatusController::StoreBandwidth(bool auto_pause, std::int16_t value) {
 }
 
 void StatusController::SliderMove(std::int16_t value) {
-  view_.transfer.bandwidth.value = value;
-  screen_.Render(view_);
+  sliding_ = value;
+  Render();
 }
 
 void StatusController::SliderRelease() {
+  sliding_.reset();
   shared::ProfileStore profile(machine_, state_);
   const bool auto_pause = profile.ReadUserNameIniPlain(shared::keys::kBackupIdle) == "1";
   profile.WriteUserNameIni(

@@ -14,12 +14,8 @@ constexpr std::size_t kLineLength = 70;
 constexpr std::size_t kLineLengthLargeFonts = 62;
 
 // What differs between the panels of a backup and of a restore.
-struct PanelDesign {
-  std::string_view file_count_label;
-  OverallWidth width_when_paused;
-};
-constexpr PanelDesign kBackupPanel = {"Backedup files: ", OverallWidth::kWider};
-constexpr PanelDesign kRestorePanel = {"Restored files: ", OverallWidth::kRestore};
+constexpr std::string_view kBackupFileCount = "Backedup files: ";
+constexpr std::string_view kRestoreFileCount = "Restored files: ";
 
 bool IsRunning(std::string_view in_progress) {
   return shared::Trim(in_progress) == "1";
@@ -31,16 +27,16 @@ std::string_view PausedText(const TransferSnapshot& transfer, bool backup) {
   return transfer.job == kJobRestore ? kRestoreOperationPaused : kBackupPaused;
 }
 
-void ShowCounters(TransferPanel& panel, const ProgressTexts& progress, const PanelDesign& design) {
+void ShowCounters(TransferPanel& panel, const ProgressTexts& progress,
+                  std::string_view file_count_label) {
   panel.transfer_rate = "Transfer Rate: " + progress.rate;
   panel.time_estimated = "Time Estimated: " + progress.estimate;
   panel.time_elapsed = "Time Elapsed: " + progress.elapsed;
-  panel.file_count = std::string(design.file_count_label) + progress.file_count;
+  panel.file_count = std::string(file_count_label) + progress.file_count;
 }
 
 void RefreshPanel(StatusView& view, const TransferSnapshot& transfer, const StatusContext& context,
                   bool backup) {
-  const PanelDesign& design = backup ? kBackupPanel : kRestorePanel;
   TransferPanel& panel = view.transfer;
   // 1.
   view.space_label_shown = false;
@@ -52,15 +48,13 @@ void RefreshPanel(StatusView& view, const TransferSnapshot& transfer, const Stat
   if (!transfer.paused) {
     panel.says_resume = false;
     panel.overall_red = false;
-    panel.overall_width = OverallWidth::kDesign;
   }
   if (!panel.says_resume) panel.rate_shown = true;
   // 3.
   panel.counters_shown = true;
-  // 4.
+  // 4. The layout gives the line all the width there is.
   if (transfer.paused) {
     panel.says_resume = true;
-    panel.overall_width = design.width_when_paused;
     panel.overall = PausedText(transfer, backup);
     panel.overall_red = true;
     panel.rate_shown = false;
@@ -70,7 +64,7 @@ void RefreshPanel(StatusView& view, const TransferSnapshot& transfer, const Stat
   // 7.
   if (!transfer.paused) panel.overall = transfer.progress.total;
   // 8.
-  ShowCounters(panel, transfer.progress, design);
+  ShowCounters(panel, transfer.progress, backup ? kBackupFileCount : kRestoreFileCount);
   // 9.
   if (auto position = BarPosition(transfer.progress.percentage, kTransferBarMaximum)) {
     panel.bar = *position;
