@@ -44,9 +44,9 @@ class Files {
   // is untouched and nothing is left beside it. A read-only, locked or folder target is a failure.
   virtual bool Replace(std::string_view path, std::string_view bytes) = 0;
 
-  // Appends one line of ANSI text, converted to UTF-16 (little endian), and a CR LF. A missing file
-  // is created with the byte-order mark in front. Returns false, with the file as it was, when it
-  // cannot be opened.
+  // Appends one line of ANSI text, converted to UTF-16 (little endian), and a CR LF. A missing or
+  // empty file gets the byte-order mark in front. Returns false, with the file as it was, when it
+  // is read-only, locked or cannot be opened.
   virtual bool AppendUtf16Line(std::string_view path, std::string_view line) = 0;
 
   // Size in bytes, or nothing for a missing file or a folder.
@@ -61,7 +61,8 @@ class Files {
   // Makes one folder; its parent must be there. True only when this call made it.
   virtual bool MakeFolder(std::string_view path) = 0;
 
-  // Deletes a folder with all that is in it. What is locked stays; false when anything is left.
+  // Deletes a folder with all that is in it. What is locked or read-only stays; false when anything
+  // is left, or when there was no such folder.
   virtual bool RemoveFolder(std::string_view path) = 0;
 
   // Files and folders of `folder` whose names match `pattern` (`*` and `?`), sorted by name without

@@ -18,7 +18,7 @@ std::string FolderOf(const std::string& path) {
 
 std::string MakeSibling(const std::string& path) {
   char name[MAX_PATH];
-  return GetTempFileNameA(FolderOf(path).c_str(), "svn", 0, name) != 0 ? name : "";
+  return GetTempFileNameA(FolderOf(path).c_str(), "sve", 0, name) != 0 ? name : "";
 }
 
 }  // namespace

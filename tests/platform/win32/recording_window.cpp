@@ -36,8 +36,8 @@ RecordingWindow::~RecordingWindow() {
 void RecordingWindow::Run(const std::string& class_name, const std::string& title, HANDLE ready) {
   const std::string name = class_name.empty() ? kOwnClass : class_name;
   RegisterWindowClass(name, Procedure);
-  window_ = CreateWindowExA(0, name.c_str(), title.c_str(), WS_OVERLAPPEDWINDOW | WS_VISIBLE, 40,
-                            40, 300, 120, nullptr, nullptr, GetModuleHandleA(nullptr), nullptr);
+  window_ = CreateWindowExA(0, name.c_str(), title.c_str(), WS_OVERLAPPEDWINDOW, 40, 40, 300, 120,
+                            nullptr, nullptr, GetModuleHandleA(nullptr), nullptr);
   SetWindowLongPtrA(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   SetEvent(ready);
   MSG message;
