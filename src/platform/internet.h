@@ -7,8 +7,9 @@ class Internet {
  public:
   virtual ~Internet() = default;
 
-  // Tells every program that the system's internet settings were changed, and has them read anew.
-  // False when either is refused; the second is asked for in any case.
+  // Tells every program that the system's internet settings were changed, and asks this one's
+  // library to read them anew. False when nobody could be told; the second is not answered for,
+  // since not every system does it without an open session.
   virtual bool RefreshSettings() = 0;
 };
 

@@ -7,8 +7,8 @@ namespace platform::win32 {
 
 bool Internet::RefreshSettings() {
   const bool told = InternetSetOptionA(nullptr, INTERNET_OPTION_SETTINGS_CHANGED, nullptr, 0) != 0;
-  const bool read = InternetSetOptionA(nullptr, INTERNET_OPTION_REFRESH, nullptr, 0) != 0;
-  return told && read;
+  InternetSetOptionA(nullptr, INTERNET_OPTION_REFRESH, nullptr, 0);
+  return told;
 }
 
 }  // namespace platform::win32
