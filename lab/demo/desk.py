@@ -50,6 +50,7 @@ class Desk:
         self._windows = {}
         self._icons = []
         self._listeners = []
+        self._aside = False
         self._observer = observer
         self._watch = self.start(observer, "watch", pictures, stdout=subprocess.PIPE)
         threading.Thread(target=self._listen, daemon=True).start()
@@ -123,11 +124,13 @@ class Desk:
 
     def move(self, place):
         x, y = middle(place)
-        # Two moves: a pointer that stands still makes no event.
-        self._xdotool("mousemove", x + 1, y, "mousemove", x, y)
+        # A pointer that comes back to where it was makes no event.
+        self._aside = not self._aside
+        self._xdotool("mousemove", x + self._aside, y)
 
     def click(self, place, button=1, times=1):
         self.move(place)
+        time.sleep(0.3)  # as a hand does; a menu takes no click before it has seen the mouse
         self._xdotool("click", "--repeat", times, "--delay", 60, button)
 
     def key(self, name):

@@ -5,6 +5,7 @@ usage: play.py INSTALLATION OBSERVER OUTPUT
 INSTALLATION is a staged installation with the stand-ins, on the disk of the Wine prefix in use.
 """
 
+import re
 import sys
 import time
 
@@ -19,6 +20,11 @@ MENU_ITEMS = (
     "Stop Scheduled Backup", "Disable Automatic Backup", "Manage all the Scheduled Jobs",
     "Backup Now", "Check for Updates", "Send Error Report", "Help", "Exit")
 NORMAL, RUNNING, DONE = "tvlog.ico", "tvlogyellow.ico", "tvloggreen.ico"
+
+
+def without_numbers(text):
+    """The minutes that a tip tells go on meanwhile."""
+    return re.sub(r"\d+", "#", text)
 
 
 class Demo:
@@ -89,7 +95,7 @@ class Demo:
         self.desk.run(self.program("SorvaneEClassic.exe"), "schedule")
         self.wait_for_picture(RUNNING)
         self.timeline.photograph("running", "the backup runs, the icon blinks")
-        self.rest_on_icon("Backed up files: 3")
+        self.rest_on_icon("Backed up files: 2")
         self.timeline.photograph("progress", "the tip counts the files")
         self.leave_icon()
         self.wait_for_picture(DONE, seconds=90)
@@ -108,13 +114,13 @@ class Demo:
         self.wait_until_closed("LabMainProgram")
 
     def renew_shell(self):
-        before = self.icon().tip
+        before = without_numbers(self.icon().tip)
         self.timeline.tell("shell", "starts anew: its area is empty, and it tells all windows")
         self.desk.renew_shell(MAIN_FORM)
         wait_for("the icon is gone and back", lambda: self.icon())
         time.sleep(4)
-        if len(self.desk.icons()) != 1 or self.icon().tip != before:
-            raise AssertionError(f"one icon with the tip {before!r}, not {self.desk.icons()}")
+        if len(self.desk.icons()) != 1 or without_numbers(self.icon().tip) != before:
+            raise AssertionError(f"not one icon with its old tip: {self.desk.icons()}")
         self.timeline.photograph("shell-anew", "one icon again, with its old tip")
 
     def open_menu(self, photograph=False):
@@ -142,7 +148,7 @@ class Demo:
 
     def alert(self):
         self.timeline.tell("web plug-in", "reports an error")
-        self.desk.run(self.program("SorvanePlugin.exe"), "error -3")
+        self.desk.run(self.program("SorvanePlugin.exe"), "error", "-3")
         self.wait_for_window("frmWelcome")
         self.timeline.photograph("web-alert", "the web alert at the lower right")
         self.timeline.tell("person", 'presses "Close"')
