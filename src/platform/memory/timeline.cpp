@@ -67,7 +67,7 @@ void Timeline::Pump() {
 void Timeline::RunUntil(const std::function<bool()>& done) {
   if (!agent_acts()) return;
   if (depth_ == 0) steps_ = 0;
-  ++depth_;
+  if (++depth_ > kDeepest) RunAway("nests its loops too deep");
   EnterPump();
   while (Pumps() && !done()) {
     if (RunAgentStep(nullptr)) continue;

@@ -34,6 +34,8 @@ class Timeline {
   // A nested loop that is still unanswered this long after the end of the outermost Run has run
   // away.
   static constexpr std::uint64_t kPatience = 24ull * 3600 * 1000;
+  // So have loops that open each other without end.
+  static constexpr int kDeepest = 100;
 
   Timeline(Gate& gate, Journal& journal) : gate_(gate), journal_(journal) {}
   Timeline(const Timeline&) = delete;

@@ -1,6 +1,8 @@
 // How time moves, and what happens in it.
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include "platform/memory/machine.h"
 
 namespace platform::memory {
@@ -148,9 +150,20 @@ TEST_F(MemoryTime, EndsALoopThatNobodyAnswers) {
 }
 
 TEST_F(MemoryTime, EndsANestedLoopThatOutlivesItsStory) {
-  events().StartTimer(3000, [&] { events().RunUntil([] { return false; }); });
+  bool opened = false;
+  events().StartTimer(3000, [&] {
+    if (!std::exchange(opened, true)) events().RunUntil([] { return false; });
+  });
   machine_.Run(10000);
   EXPECT_TRUE(machine_.ran_away());
+  EXPECT_GT(machine_.now(), 10000 + Timeline::kPatience - 3000);
+}
+
+TEST_F(MemoryTime, EndsLoopsThatOpenEachOther) {
+  events().StartTimer(3000, [&] { events().RunUntil([] { return false; }); });
+  machine_.Run(3600000);
+  EXPECT_TRUE(machine_.ran_away());
+  EXPECT_EQ(machine_.journal().Excerpt("runaway").front(), "nests its loops too deep");
 }
 
 TEST_F(MemoryTime, EndsAWaitForWhatNeverComes) {
