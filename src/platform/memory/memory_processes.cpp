@@ -19,34 +19,39 @@ bool IsNamed(const ProcessRecord& process, std::string_view name_or_path) {
 }  // namespace
 
 MemoryProcesses::MemoryProcesses(World& world) : world_(world) {
-  processes_[4] = {4, "System", false, false, true, 0};
+  running_[4] = {4, "System", false, false, true, 0};
   Add("C:\\Windows\\explorer.exe");
   own_id_ = Add(executable_).id;
 }
 
+void MemoryProcesses::Walk(std::size_t most,
+                           const std::function<bool(const ProcessRecord&)>& visit) const {
+  for (auto next = running_.begin(); next != running_.end() && most > 0; --most) {
+    // Taken before the visit, which may end the process.
+    const ProcessRecord& process = (next++)->second;
+    if (!visit(process)) return;
+  }
+}
+
 void MemoryProcesses::WalkModuleNames(std::size_t most, const ProcessVisitor& visit) {
   if (world_.gate.Fails("processes.WalkModuleNames")) return;
-  for (const auto& [id, process] : processes_) {
-    if (!process.running) continue;
-    if (most-- == 0) return;
-    if (process.readable && !visit({id, std::string(NameOfPath(process.path))})) return;
-  }
+  Walk(most, [&](const ProcessRecord& process) {
+    return !process.readable || visit({process.id, std::string(NameOfPath(process.path))});
+  });
 }
 
 void MemoryProcesses::WalkModulePaths(std::size_t most, const ProcessVisitor& visit) {
   if (world_.gate.Fails("processes.WalkModulePaths")) return;
-  for (const auto& [id, process] : processes_) {
-    if (!process.running) continue;
-    if (most-- == 0) return;
-    if (process.readable && !visit({id, process.path})) return;
-  }
+  Walk(most, [&](const ProcessRecord& process) {
+    return !process.readable || visit({process.id, process.path});
+  });
 }
 
 void MemoryProcesses::WalkSnapshot(const ProcessVisitor& visit) {
   if (world_.gate.Fails("processes.WalkSnapshot")) return;
-  for (const auto& [id, process] : processes_) {
-    if (process.running && !visit({id, std::string(NameOfPath(process.path))})) return;
-  }
+  Walk(running_.size(), [&](const ProcessRecord& process) {
+    return visit({process.id, std::string(NameOfPath(process.path))});
+  });
 }
 
 std::uint32_t MemoryProcesses::Terminate(ProcessId id, std::uint32_t access) {
@@ -83,9 +88,8 @@ void MemoryProcesses::ExitSelf(std::uint32_t code) {
 
 bool MemoryProcesses::IsPreviousInstanceRunning() {
   if (world_.gate.Fails("processes.IsPreviousInstanceRunning")) return false;
-  return std::any_of(processes_.begin(), processes_.end(), [&](const auto& entry) {
-    return entry.first != own_id_ && entry.second.running &&
-           EqualIgnoreCase(entry.second.path, executable_);
+  return std::any_of(running_.begin(), running_.end(), [&](const auto& entry) {
+    return entry.first != own_id_ && EqualIgnoreCase(entry.second.path, executable_);
   });
 }
 
@@ -180,22 +184,24 @@ ProcessId MemoryProcesses::OfHandle(ProcessHandle handle) const {
 }
 
 const ProcessRecord* MemoryProcesses::Find(ProcessId id) const {
-  const auto found = processes_.find(id);
-  return found == processes_.end() ? nullptr : &found->second;
+  for (const auto* processes : {&running_, &ended_}) {
+    const auto found = processes->find(id);
+    if (found != processes->end()) return &found->second;
+  }
+  return nullptr;
 }
 
 ProcessId MemoryProcesses::RunningId(std::string_view name_or_path) const {
-  for (const auto& [id, process] : processes_) {
-    if (process.running && IsNamed(process, name_or_path)) return id;
+  for (const auto& [id, process] : running_) {
+    if (IsNamed(process, name_or_path)) return id;
   }
   return 0;
 }
 
 std::size_t MemoryProcesses::CountRunning(std::string_view name_or_path) const {
   return static_cast<std::size_t>(
-      std::count_if(processes_.begin(), processes_.end(), [&](const auto& entry) {
-        return entry.second.running && IsNamed(entry.second, name_or_path);
-      }));
+      std::count_if(running_.begin(), running_.end(),
+                    [&](const auto& entry) { return IsNamed(entry.second, name_or_path); }));
 }
 
 void MemoryProcesses::SetReadable(ProcessId id, bool readable) {
@@ -230,15 +236,15 @@ void MemoryProcesses::RenewAgent() {
 ProcessRecord& MemoryProcesses::Add(std::string_view path) {
   const ProcessId id = next_id_;
   next_id_ += 4;
-  ProcessRecord& process = processes_[id];
+  ProcessRecord& process = running_[id];
   process.id = id;
   process.path = path;
   return process;
 }
 
 ProcessRecord* MemoryProcesses::FindRunning(ProcessId id) {
-  const auto found = processes_.find(id);
-  return found == processes_.end() || !found->second.running ? nullptr : &found->second;
+  const auto found = running_.find(id);
+  return found == running_.end() ? nullptr : &found->second;
 }
 
 const Program* MemoryProcesses::ProgramOf(std::string_view path) const {
@@ -251,6 +257,7 @@ void MemoryProcesses::Finish(ProcessRecord& process, std::uint32_t exit_code) {
   const ProcessId id = process.id;
   process.running = false;
   process.exit_code = exit_code;
+  ended_.insert(running_.extract(id));
   const auto [first, last] = agendas_.equal_range(id);
   for (auto event = first; event != last; ++event) world_.timeline.Cancel(event->second);
   agendas_.erase(first, last);

@@ -111,6 +111,7 @@ class MemoryProcesses : public Processes {
  private:
   using Names = std::set<std::string, std::less<>>;
 
+  void Walk(std::size_t most, const std::function<bool(const ProcessRecord&)>& visit) const;
   ProcessRecord& Add(std::string_view path);
   ProcessRecord* FindRunning(ProcessId id);
   const Program* ProgramOf(std::string_view path) const;
@@ -118,7 +119,9 @@ class MemoryProcesses : public Processes {
   void RunAs(ProcessId id, const std::function<void()>& act);
 
   World& world_;
-  std::map<ProcessId, ProcessRecord> processes_;
+  // Apart, so that a month of programs that came and went does not slow down the walks.
+  std::map<ProcessId, ProcessRecord> running_;
+  std::map<ProcessId, ProcessRecord> ended_;
   std::map<std::string, Program, IgnoreCaseLess> programs_;
   std::multimap<ProcessId, EventId> agendas_;
   std::vector<std::function<void(ProcessId)>> when_ended_;
