@@ -5,6 +5,7 @@
 
 #include "agent/daily_step.h"
 #include "agent/supervision.h"
+#include "schedule/default_schedule.h"
 #include "shared/daily_sync.h"
 #include "shared/keys.h"
 #include "shared/process_list.h"
@@ -37,6 +38,8 @@ void Housekeeping::HousekeepingTick() {
   // 5.
   DailyStep daily(machine_, state_, tray_);
   if ((tray == "0" || tray.empty()) && daily.IsDailyDue()) daily.Run();
+  // 6. Does nothing unless this is a new user.
+  schedule::ScheduleCreateFiles(machine_, state_).Form_Load();
   // 7.
   shared::RunDailySync(machine_, state_);
   // An error of the web plug-in.

@@ -41,7 +41,7 @@ bool StartUp::Main() {
   if (!LoadProductConfig(machine_, state_)) return false;
   SetExecutableNames(state_, texts_);
   // 3. Web management and quota.
-  state_.WebManagementErrors = 0;
+  state_.WebRetryCount = 0;
   state_.QuotaCheck = 0;
   // 4. The screen cannot be asked for its scale, which stays 0: no screen has small fonts.
   constexpr double kScale = 0;

@@ -123,7 +123,6 @@ struct AgentState {
   bool RestartStatusWindow = false;  // the status window is to be opened anew when it closes
 
   // The web-management switch and the quota check.
-  std::int16_t WebManagementErrors = 0;
   std::int16_t WebRetryCount = 0;  // 1: the alert was shown since the switch was used
   std::int16_t WebState = 0;       // 0: the plug-in has been ended
   std::int16_t QuotaCheck = 0;
