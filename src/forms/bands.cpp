@@ -6,6 +6,7 @@ namespace forms {
 namespace {
 
 constexpr int kTitlePadding = 10;
+constexpr int kLinkGap = 1;  // less than a blank, which the link covers
 constexpr int kTitleWidth = 200;
 
 }  // namespace
@@ -38,7 +39,7 @@ void PlaceLinkInText(Label& link, const Label& text, std::string_view lead) {
   const Rect ground = text.Bounds();
   const int lead_width = host.MeasureText(text.Owner(), lead, text.TextFont(), 0).width;
   const Size size = host.MeasureText(text.Owner(), link.Text(), link.TextFont(), 0);
-  link.SetBounds({ground.left + lead_width, ground.top, size.width, size.height});
+  link.SetBounds({ground.left + lead_width + kLinkGap, ground.top, size.width, size.height});
 }
 
 }  // namespace forms

@@ -21,8 +21,9 @@ Cell ButtonBand(Frame& ground, std::vector<Cell> buttons);
 // Title, body and buttons below each other, with nothing between them.
 Cell Bands(std::vector<Cell> bands);
 
-// Puts `link` into the sentence of `text`, right behind `lead`, its beginning. For captions that
-// leave the place of a link open. REQUIRES: both are arranged; `link` lies over `text`.
+// Puts `link` into the sentence of `text`, right behind `lead`, its beginning up to the blank, and
+// over what follows it. For captions that leave the place of a link open. REQUIRES: both are
+// arranged; `link` lies over `text`.
 void PlaceLinkInText(Label& link, const Label& text, std::string_view lead);
 
 }  // namespace forms

@@ -30,6 +30,7 @@ struct FormDesign {
   int width = 0;             // the least
   Placement placement = Placement::kCentreOfOwner;
   bool on_top = false;
+  bool quiet = false;   // leaves the keyboard where it is when it is shown
   bool framed = false;  // with the system's frame and title bar
   bool in_task_bar = false;
   bool layered = false;  // its strength (SetAlpha) can be changed

@@ -52,9 +52,13 @@ frmGeneralMessage::frmGeneralMessage(FormHost& host, bool& answer)
   SetLayout(Bands({
       TitleBand(fraTitle, Label2, Image2),
       BodyBand({
-          Line({Item(Image4), Item(Label1).Width(kTextWidth).Grow()}).Gap(theme::kMargin),
-          Pile({Item(fraNote),
-                Stack({Item(lblnote), Item(lblcdp), Item(Label3)}).Gap(2).Padding(theme::kGap)}),
+          Line({Item(Image4).AtTop(),
+                Stack({Item(Label1).Width(kTextWidth).Grow(),
+                       Pile({Item(fraNote),
+                             Stack({Item(lblnote), Item(lblcdp), Item(Label3)}).Gap(2)})})
+                    .Gap(theme::kMargin)
+                    .Grow()})
+              .Gap(theme::kMargin),
       }),
       ButtonBand(fraButtons, {Pile({Item(Continue), Item(Image1), Item(TextCont).Height(1)}),
                               Pile({Item(IDCancel), Item(Image3), Item(TextClose)})}),

@@ -18,6 +18,7 @@ constexpr FormDesign kDesign = {
     .width = kWidth,
     .placement = Placement::kLowerRight,
     .on_top = true,
+    .quiet = true,
     .layered = true,
     .corner_radius = theme::kCornerRadius,
 };
@@ -26,6 +27,7 @@ constexpr FormDesign kDesign = {
 
 frmWelcome::frmWelcome(FormHost& host, WelcomeCommands commands)
     : Form(host, kDesign), commands_(std::move(commands)) {
+  cmdExit.SetFocus();
   Label5.SetDragsWindow(true);
   Label5.SetContainer(fraTitle);
   cmdExit.SetContainer(fraButtons);
@@ -39,13 +41,13 @@ frmWelcome::frmWelcome(FormHost& host, WelcomeCommands commands)
   on_close = cmdExit.on_click;
   lblErrorReportLink.on_click = [this] { ReportError(); };
   on_arranged = [this] {
-    PlaceLinkInText(lblErrorReportLink, lblSupport, "For further assistance, ");
+    PlaceLinkInText(lblErrorReportLink, lblSupport, "For further assistance,");
   };
 
   SetLayout(Bands({
       Pile({Item(fraTitle), Line({Item(Label5)}).Padding(theme::kMargin)}),
       BodyBand({
-          Line({Item(imgPicture),
+          Line({Item(imgPicture).AtTop(),
                 Stack({Item(lblInstall).Width(kTextWidth).Grow(), Item(lblSupport)}).Grow()})
               .Gap(theme::kMargin),
       }),

@@ -58,7 +58,7 @@ Size Arranger::ItemSize(const Control& control, int width) const {
     case ControlKind::kButton: {
       const Size text = TextSize(control, 0);
       return {std::max(theme::kButtonWidth, text.width + 2 * theme::kButtonPadding),
-              std::max(theme::kButtonHeight, text.height + 2 * theme::kFieldPadding)};
+              std::max(theme::kButtonHeight, text.height + 3 * theme::kFieldPadding)};
     }
     case ControlKind::kCheckBox:
     case ControlKind::kRadioButton: {
@@ -177,8 +177,8 @@ void Arranger::PlaceLine(const Cell& cell, const Rect& room) const {
     const Cell& inner = cell.cells[index];
     if (!TakesRoom(inner)) continue;
     const int height = HeightAt(inner, widths[index]);
-    // Neighbours of different heights stand on one middle line.
-    Place(inner, {left, room.top + (room.height - height) / 2, widths[index], height});
+    const int below_top = inner.at_top ? 0 : (room.height - height) / 2;
+    Place(inner, {left, room.top + below_top, widths[index], height});
     left += widths[index] + cell.gap;
   }
 }
@@ -236,6 +236,9 @@ Cell Cell::Padding(int units) const {
 }
 Cell Cell::Gap(int units) const {
   return Edited(*this, [units](Cell& cell) { cell.gap = units; });
+}
+Cell Cell::AtTop() const {
+  return Edited(*this, [](Cell& cell) { cell.at_top = true; });
 }
 Cell Cell::KeepRoom() const {
   return Edited(*this, [](Cell& cell) { cell.keeps_room = true; });

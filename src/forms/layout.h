@@ -27,6 +27,7 @@ struct Cell {
   int height = 0;   // the least
   bool grows = false;
   bool keeps_room = false;
+  bool at_top = false;
 
   // Takes the room that is left over in its row, or in a column its height.
   Cell Grow() const;
@@ -35,6 +36,8 @@ struct Cell {
   Cell Height(int units) const;
   Cell Padding(int units) const;
   Cell Gap(int units) const;
+  // Stands at the top of its line, not on the middle line of its neighbours.
+  Cell AtTop() const;
   // Keeps its place while the control is hidden; otherwise the others close up.
   Cell KeepRoom() const;
 };

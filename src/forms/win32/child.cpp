@@ -3,6 +3,8 @@
 #include <commctrl.h>
 #include <windowsx.h>
 
+#include <algorithm>
+
 #include "forms/form.h"
 #include "forms/win32/child_kinds.h"
 #include "forms/win32/child_values.h"
@@ -79,6 +81,8 @@ void Child::Update(Property property) {
     case Property::kLook:
       SendMessageA(window, WM_SETFONT,
                    reinterpret_cast<WPARAM>(screen_.fonts.Get(control_.TextFont(), Dpi())), TRUE);
+      SetWindowPos(window, nullptr, 0, 0, 0, 0,
+                   SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
       InvalidateRect(window, nullptr, FALSE);
       break;
     case Property::kItems:
@@ -134,12 +138,34 @@ void Child::Paint() {
   EndPaint(window_.get(), &paint);
 }
 
+bool Child::IsField() const {
+  return control_.Kind() == ControlKind::kTextBox &&
+         static_cast<const TextBox&>(control_).Style() == TextBoxStyle::kOneLine;
+}
+
+// The system writes a line at the top of its field: the field is made as high as the line, in the
+// middle of the window.
+void Child::InsetField(RECT& inside) const {
+  const WindowDc dc(window_.get());
+  const Selection font(dc.get(), screen_.fonts.Get(control_.TextFont(), Dpi()));
+  TEXTMETRICA metric = {};
+  GetTextMetricsA(dc.get(), &metric);
+  const LONG above = (inside.bottom - inside.top - metric.tmHeight) / 2;
+  InflateRect(&inside, -ToPixels(theme::kFieldPadding, Dpi()), -std::max(above, 1L));
+}
+
 // The thin border of fields, in the colour that says where the keyboard is.
 void Child::DrawFieldBorder() const {
   const HDC dc = GetWindowDC(window_.get());
   RECT place;
   GetWindowRect(window_.get(), &place);
   OffsetRect(&place, -place.left, -place.top);
+  if (IsField()) {
+    RECT inside = place;
+    InsetField(inside);
+    ExcludeClipRect(dc, inside.left, inside.top, inside.right, inside.bottom);
+    FillRect(dc, &place, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+  }
   const bool focused = GetFocus() == window_.get();
   const ScopedBrush brush(CreateSolidBrush(focused ? theme::kAccent : theme::kBorder));
   FrameRect(dc, &place, brush.get());
@@ -256,12 +282,13 @@ LRESULT Child::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
       const LRESULT result = PassOn(message, wparam, lparam);
       if (IsCatcher(control_)) HideCaret(window);
       InvalidateRect(window, nullptr, FALSE);
-      SendMessageA(window, WM_NCPAINT, 1, 0);
+      RedrawWindow(window, nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE);
       if (control_.on_focus) control_.on_focus();
       return result;
     }
     case WM_KILLFOCUS:
       InvalidateRect(window, nullptr, FALSE);
+      RedrawWindow(window, nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE);
       if (control_.on_blur) control_.on_blur();
       break;
     case WM_SETCURSOR:
@@ -271,8 +298,15 @@ LRESULT Child::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         return TRUE;
       }
       break;
+    case WM_NCCALCSIZE:
+      if (IsField()) {
+        const LRESULT result = PassOn(message, wparam, lparam);
+        InsetField(*reinterpret_cast<RECT*>(lparam));
+        return result;
+      }
+      break;
     case WM_NCPAINT:
-      if (GetWindowLongPtrA(window, GWL_STYLE) & WS_BORDER) {
+      if (IsField() || (GetWindowLongPtrA(window, GWL_STYLE) & WS_BORDER)) {
         const LRESULT result = PassOn(message, wparam, lparam);
         DrawFieldBorder();
         return result;

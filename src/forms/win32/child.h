@@ -47,6 +47,8 @@ class Child {
   bool DrawsItself() const;
   bool LooksClickable() const;
   void Paint();
+  bool IsField() const;
+  void InsetField(RECT& inside) const;
   void DrawFieldBorder() const;
   void Place() const;
   Point UnitsAt(LPARAM lparam) const;

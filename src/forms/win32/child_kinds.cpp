@@ -9,7 +9,7 @@ namespace {
 
 // By TextBoxStyle.
 constexpr DWORD kTextBoxStyles[] = {
-    WS_BORDER | ES_AUTOHSCROLL,
+    ES_AUTOHSCROLL,  // has its border from the theme
     WS_BORDER | WS_VSCROLL | ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN,
     ES_MULTILINE | ES_READONLY,
     ES_READONLY,

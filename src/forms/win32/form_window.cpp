@@ -125,9 +125,17 @@ void FormWindow::Update(const Control* control, Property property) {
     if (form_.Design().layered) {
       SetLayeredWindowAttributes(window_.get(), 0, static_cast<BYTE>(form_.Alpha()), LWA_ALPHA);
     }
-    if (GetCapture() == nullptr) PostMessageA(window_.get(), WM_SETCURSOR, 0, HTCLIENT);
+    ShowPointer();
   }
   if (form_.NeedsArranging() && form_.Visible()) ArrangeSoon();
+}
+
+void FormWindow::ShowPointer() {
+  if (shown_pointer_ == form_.MousePointer()) return;
+  shown_pointer_ = form_.MousePointer();
+  // The window under the mouse is asked for its pointer when the mouse is set to where it is.
+  POINT mouse;
+  if (GetCursorPos(&mouse)) SetCursorPos(mouse.x, mouse.y);
 }
 
 // Once for all properties that one handler sets.
@@ -197,6 +205,10 @@ void FormWindow::SetState(WindowState state) {
     case WindowState::kShown:
     case WindowState::kInFront:
       if (form_.NeedsArranging() || !placed_) Arrange();
+      if (state == WindowState::kShown && form_.Design().quiet) {
+        ShowWindow(window, SW_SHOWNOACTIVATE);
+        return;
+      }
       ShowWindow(window, IsIconic(window) ? SW_RESTORE : SW_SHOW);
       if (state == WindowState::kInFront) SetForegroundWindow(window);
       GiveFirstFocus();

@@ -59,12 +59,13 @@ class FormWindow {
   void DrawItem(const DRAWITEMSTRUCT& item);
   void ChangeDpi(const RECT& suggested);
   void GiveFirstFocus();
+  void ShowPointer();
 
   Form& form_;
   Screen& screen_;
   platform::win32::ScopedWindow window_;
   std::vector<std::unique_ptr<Child>> children_;
-  std::vector<ScopedBrush> grounds_;
+  Pointer shown_pointer_ = Pointer::kDefault;
   bool closed_ = false;
   bool placed_ = false;
   bool arrange_posted_ = false;

@@ -25,6 +25,9 @@ constexpr KeyName kKeys[] = {
     {VK_UP, Key::kUp},        {VK_DOWN, Key::kDown},
 };
 
+// Smooth letters reach a little over the room that the system gives for them.
+constexpr int kOverhang = 1;
+
 constexpr LPARAM kRepeatedKey = 1 << 30;
 
 bool IsDown(int key) {
@@ -204,7 +207,7 @@ Size Host::MeasureText(const Form& form, std::string_view text, Font font, int w
   const UINT format = kTextFormat | DT_CALCRECT;
   DrawTextA(dc.get(), shown.c_str(), static_cast<int>(shown.size()), &room,
             width > 0 ? format : format & ~static_cast<UINT>(DT_WORDBREAK));
-  return {text.empty() ? 0 : ToUnits(room.right, dpi), ToUnits(room.bottom, dpi)};
+  return {text.empty() ? 0 : ToUnits(room.right, dpi) + kOverhang, ToUnits(room.bottom, dpi)};
 }
 
 std::unique_ptr<forms::ToolTipWindow> Host::MakeToolTip() {
