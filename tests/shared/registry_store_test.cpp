@@ -180,5 +180,47 @@ TEST_F(RegistryStoreTest, LetsTheDialUpEntryConnectByItself) {
   EXPECT_EQ(machine_.journal().Count("internet", "refresh settings"), 1u);
 }
 
+// A registry that has no memory left.
+class ExhaustedRegistry final : public platform::Registry {
+ public:
+  platform::RegistryResult Read(Hive, std::string_view, std::string_view, std::size_t,
+                                platform::RegistryAccess) override {
+    return {true, kOutOfMemory, {}};
+  }
+  std::uint32_t CreateKey(Hive, std::string_view) override { return kOutOfMemory; }
+  std::uint32_t Write(Hive, std::string_view, std::string_view,
+                      const platform::RegistryValue&) override {
+    return kOutOfMemory;
+  }
+  std::uint32_t Flush(Hive, std::string_view) override { return kOutOfMemory; }
+
+ private:
+  static constexpr std::uint32_t kOutOfMemory = 8;
+};
+
+TEST_F(RegistryStoreTest, TellsTheUserThatThereIsNoMemoryForAQuery) {
+  ExhaustedRegistry exhausted;
+  platform::Platform& all = platform();
+  platform::Platform without_memory{.files = all.files,
+                                    .profile_files = all.profile_files,
+                                    .registry = exhausted,
+                                    .processes = all.processes,
+                                    .services = all.services,
+                                    .shell = all.shell,
+                                    .other_windows = all.other_windows,
+                                    .clock = all.clock,
+                                    .events = all.events,
+                                    .power = all.power,
+                                    .locale = all.locale,
+                                    .libraries = all.libraries,
+                                    .random = all.random,
+                                    .internet = all.internet};
+  EXPECT_EQ(RegistryStore(without_memory, state_).ReadAppValue("PluginFlag"), "");
+  EXPECT_EQ(
+      machine_.journal().Excerpt("box"),
+      (std::vector<std::string>{
+          "stop Sorvane Classic: Unable to query the registry, reason : Not enough memory."}));
+}
+
 }  // namespace
 }  // namespace shared
