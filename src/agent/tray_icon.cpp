@@ -16,6 +16,10 @@ void TrayIcon::Remove() {
   window_ = 0;
 }
 
+void TrayIcon::SetTrayImage(StatePicture picture) {
+  if (Load(picture) != platform::kNoPicture) wanted_picture_ = picture;
+}
+
 void TrayIcon::SetTrayIcon(std::string_view tip) {
   wanted_tip_ = tip;
   if (is_in_) ShowTip();
@@ -41,7 +45,6 @@ platform::PictureId TrayIcon::Load(StatePicture picture) {
   return id;
 }
 
-// A picture that cannot be loaded leaves the one before it.
 void TrayIcon::ShowPicture() {
   const platform::PictureId picture = Load(wanted_picture_);
   if (picture == platform::kNoPicture || picture == shown_picture_) return;

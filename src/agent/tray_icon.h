@@ -28,8 +28,9 @@ class TrayIcon {
   // Takes the icon out.
   void Remove();
 
-  // Notes the picture to show; the last one noted before Show is shown.
-  void SetTrayImage(StatePicture picture) { wanted_picture_ = picture; }
+  // Notes the picture to show; the last one noted before Show is shown. One that cannot be loaded
+  // is passed over.
+  void SetTrayImage(StatePicture picture);
 
   // Sets the tip, which is shown at once.
   void SetTrayIcon(std::string_view tip);
