@@ -18,8 +18,8 @@ frmTVWinService::frmTVWinService(forms::FormHost& host, platform::Platform& mach
       icon_(machine.shell, state),
       tip_(machine, state, texts, shared_texts, schedule, icon_),
       menu_(machine, state, texts, shared_texts),
-      commands_(machine, state, texts, shared_texts, messages, icon_, tip_, menu_, *this, CDPTimer,
-                WebMTimer),
+      commands_(machine, state, texts, shared_texts, messages, icon_, tip_, menu_, schedule, *this,
+                CDPTimer, WebMTimer),
       icon_events_(machine, state, texts, messages, menu_, *this),
       window_(machine, state, menu_, icon_events_, tip_, commands_,
               [this] {

@@ -132,7 +132,7 @@ void MainTick::ShowEndOfJobIcon() {
 void MainTick::OpenEndOfJobWindow() {
   if (channel_.ReadBackupStatus(status::kStatusWindow) != "1") return;
   channel_.WriteBackupStatus(status::kStatusWindow, "0");
-  commands_.OpenStatusWindow();
+  commands_.ShowEndOfJob();
 }
 
 // Without the schedule file nothing is acknowledged: the engine's word stands until it appears.

@@ -25,12 +25,16 @@ constexpr std::string_view kPartnerTitle = "Tolvex Professional";
 TrayCommands::TrayCommands(platform::Platform& machine, shared::AgentState& state,
                            shared::Texts& texts, const SharedTexts& shared_texts,
                            shared::Messages& messages, TrayIcon& icon, TrayTip& tip, TrayMenu& menu,
-                           forms::Form& form, forms::Timer& cdp_timer, forms::Timer& web_timer)
+                           status::ScheduleTexts& schedule, forms::Form& form,
+                           forms::Timer& cdp_timer, forms::Timer& web_timer)
     : machine_(machine),
       state_(state),
       icon_(icon),
       tip_(tip),
       menu_(menu),
+      schedule_(schedule),
+      messages_(messages),
+      host_(form.Host()),
       alert_(form.Host(), {.open_options = [this] { MnuOptionsClick(); },
                            .open_error_report = [this] { OpenErrorReport(); },
                            .write_trace =
@@ -47,6 +51,35 @@ void TrayCommands::SetTrayIcon(std::string_view tip) {
 
 void TrayCommands::DisableStatusEntry() {
   menu_.Item("mnuStatus").SetEnabled(false);
+}
+
+void TrayCommands::OpenStatusWindow() {
+  StatusWindow().BringToFront();
+}
+
+void TrayCommands::ShowEndOfJob() {
+  if (!StatusWindowIsOpen()) {
+    StatusWindow().Show();
+    return;
+  }
+  state_.ForceStatusRefresh = true;
+  status_window_->EnableStatusTimer();
+}
+
+void TrayCommands::CloseStatusWindow() {
+  if (StatusWindowIsOpen()) status_window_->Unload();
+}
+
+void TrayCommands::ResetStatusWindow() {
+  if (StatusWindowIsOpen()) status_window_->ResetStatusWindow();
+}
+
+status::frmStatus& TrayCommands::StatusWindow() {
+  if (!status_window_) {
+    const status::StatusLinks links = {schedule_, *this, messages_};
+    status_window_ = std::make_unique<status::frmStatus>(host_, machine_, state_, links);
+  }
+  return *status_window_;
 }
 
 void TrayCommands::MnuOptionsClick() {

@@ -5,6 +5,7 @@
 // `ScheduleDisable`.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -20,6 +21,9 @@
 #include "platform/platform.h"
 #include "shared/agent_commands.h"
 #include "shared/agent_state.h"
+#include "shared/messages.h"
+#include "status/schedule_texts.h"
+#include "status/ui/frm_status.h"
 
 namespace agent {
 
@@ -28,8 +32,8 @@ class TrayCommands : public shared::AgentCommands {
   // `form` is the hidden main form, the timers are its one-shot continuations of the two switches.
   TrayCommands(platform::Platform& machine, shared::AgentState& state, shared::Texts& texts,
                const SharedTexts& shared_texts, shared::Messages& messages, TrayIcon& icon,
-               TrayTip& tip, TrayMenu& menu, forms::Form& form, forms::Timer& cdp_timer,
-               forms::Timer& web_timer);
+               TrayTip& tip, TrayMenu& menu, status::ScheduleTexts& schedule, forms::Form& form,
+               forms::Timer& cdp_timer, forms::Timer& web_timer);
 
   void SetTrayIcon(std::string_view tip) override;
   std::string BuildTrayTip() override { return tip_.BuildTrayTip(); }
@@ -55,7 +59,10 @@ class TrayCommands : public shared::AgentCommands {
   ContinuousBackup& continuous_backup() { return continuous_; }
   WebManagement& web_management() { return web_; }
 
-  void OpenStatusWindow() override {}
+  void OpenStatusWindow() override;
+  void ShowEndOfJob() override;
+  void CloseStatusWindow() override;
+  void ResetStatusWindow() override;
   void OpenSessionLog() override {}
   void OpenActivityLog() override {}
   void OpenRecentLog() override {}
@@ -63,11 +70,18 @@ class TrayCommands : public shared::AgentCommands {
   void OpenErrorReport() override {}
 
  private:
+  status::frmStatus& StatusWindow();
+  bool StatusWindowIsOpen() const { return status_window_ && status_window_->Loaded(); }
+
   platform::Platform& machine_;
   shared::AgentState& state_;
   TrayIcon& icon_;
   TrayTip& tip_;
   TrayMenu& menu_;
+  status::ScheduleTexts& schedule_;
+  shared::Messages& messages_;
+  forms::FormHost& host_;
+  std::unique_ptr<status::frmStatus> status_window_;  // made when it is first wanted
   forms::frmWelcome alert_;
   Session session_;
   ContinuousBackup continuous_;

@@ -29,8 +29,11 @@ class AgentCommands {
   // Stops the running scheduled job.
   virtual void StopClick() = 0;
 
-  // Opens the status window, or makes an open one refresh at once.
+  // Opens the status window, or brings the open one to the front.
   virtual void OpenStatusWindow() = 0;
+
+  // Opens the status window because a job has ended; an open one refreshes at its next tick.
+  virtual void ShowEndOfJob() {}
 
   // Opens the window that lists the session logs.
   virtual void OpenSessionLog() = 0;

@@ -1,0 +1,160 @@
+// The status window as the tray opens, refreshes and closes it.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "shared/keys.h"
+#include "status/progress_keys.h"
+#include "tests/agent/effects.h"
+#include "tests/agent/installed_agent.h"
+
+namespace agent {
+namespace {
+
+using ::testing::Contains;
+using testing::Effects;
+using testing::InstalledAgent;
+
+constexpr std::string_view kWindow = "frmStatus";
+
+class StatusWindowTest : public ::testing::Test {
+ protected:
+  void Start() {
+    ASSERT_TRUE(agent_.Start());
+    agent_.StopTimers();
+    agent_.machine.journal().Clear();
+  }
+  bool IsOpen() {
+    const auto* form = agent_.host.Find(kWindow);
+    return form != nullptr && form->Visible();
+  }
+  void OpenFromMenu() {
+    agent_.host.ChooseFromMenu("mnuStatus");
+    agent_.RightClick();
+  }
+  void EndJob() {
+    agent_.SetStatus(status::kStatusWindow, "1");
+    agent_.Tick();
+  }
+
+  InstalledAgent agent_;
+};
+
+TEST_F(StatusWindowTest, TheMenuOpensItOnce) {
+  Start();
+  OpenFromMenu();
+  EXPECT_TRUE(IsOpen());
+  OpenFromMenu();
+  EXPECT_THAT(agent_.host.OpenForms(), ::testing::ElementsAre(kWindow));
+  EXPECT_EQ(agent_.host.Read(kWindow, "lblUserName"), "ann");
+}
+
+TEST_F(StatusWindowTest, TheEndOfAJobOpensIt) {
+  Start();
+  EndJob();
+  EXPECT_TRUE(IsOpen());
+  EXPECT_FALSE(agent_.state().ForceStatusRefresh);
+  EXPECT_EQ(agent_.Status(status::kStatusWindow), "0");
+}
+
+TEST_F(StatusWindowTest, TheEndOfAJobRefreshesAnOpenOne) {
+  Start();
+  OpenFromMenu();
+  EndJob();
+  EXPECT_TRUE(agent_.state().ForceStatusRefresh);
+}
+
+TEST_F(StatusWindowTest, ALogoutByTheMenuClosesIt) {
+  Start();
+  OpenFromMenu();
+  agent_.host.AnswerWith("Continue");
+  agent_.agent().form().commands().MnuLoginClick();
+  EXPECT_FALSE(IsOpen());
+}
+
+TEST_F(StatusWindowTest, TheStopOfAJobShowsInAnOpenOne) {
+  agent_.SetProgress(status::kProgWndSection, status::kProgWndJob, "2");
+  agent_.PutUserFile(status::kScheduleDataFile, "1\r\n");
+  Start();
+  OpenFromMenu();
+  agent_.agent().form().commands().StopClick();
+  EXPECT_EQ(agent_.host.Read(kWindow, "lblHoursInfo"),
+            "All your files/folders could not be backed up as the scheduled job was manually "
+            "canceled.");
+  EXPECT_TRUE(IsOpen());
+}
+
+TEST_F(StatusWindowTest, WithoutOneTheStopOfAJobShowsNothing) {
+  agent_.PutUserFile(status::kScheduleDataFile, "1\r\n");
+  Start();
+  agent_.agent().form().commands().StopClick();
+  EXPECT_FALSE(IsOpen());
+  EXPECT_FALSE(agent_.HasUserFile(status::kOutcomeFile));
+}
+
+TEST_F(StatusWindowTest, ATransferIsSeenPausedAndResumed) {
+  agent_.SetProgress(status::kBackupProgressSection, status::kBackupInProgress, "1");
+  agent_.SetProgress(status::kBackupProgressSection, status::kFileCount, "12 of 40");
+  agent_.SetProgress(status::kProgWndSection, status::kProgWndStatus, "0");
+  agent_.SetProgress(status::kProgWndSection, status::kProgWndValue, "7");
+  agent_.SetProgress(status::kProgWndSection, status::kProgWndJob, "2");
+  Start();
+  OpenFromMenu();
+  agent_.machine.Run(2000);
+  EXPECT_EQ(agent_.host.Read(kWindow, "lblFileCountBkup"), "Backedup files: 12 of 40");
+  agent_.host.Click(kWindow, "cmd_ProgPause");
+  EXPECT_EQ(agent_.Status(status::kPaused), "1");
+  EXPECT_EQ(agent_.Tip(), "Sorvane - The scheduled backup job has been paused.");
+  EXPECT_EQ(agent_.host.Read(kWindow, "cmd_ProgPause"), "Resume");
+  agent_.host.Click(kWindow, "cmd_ProgPause");
+  EXPECT_EQ(agent_.Status(status::kPaused), "0");
+  EXPECT_EQ(agent_.host.Read(kWindow, "cmd_ProgPause"), "Pause");
+}
+
+TEST_F(StatusWindowTest, AChangeOfUserIsSeenWithinOneFastTick) {
+  Start();
+  OpenFromMenu();
+  agent_.ForgetUser();
+  agent_.machine.Run(2000);
+  EXPECT_EQ(agent_.host.Read(kWindow, "lblHoursInfo"),
+            "Login to the account for which you want to see the status.");
+  EXPECT_TRUE(IsOpen());
+}
+
+TEST_F(StatusWindowTest, TheEnginesOwnWindowMakesItGiveWay) {
+  Start();
+  OpenFromMenu();
+  agent_.SetProgress(status::kBackupProgressSection, status::kBackupInProgress, "1");
+  agent_.SetProgress(status::kProgWndSection, status::kProgWndStatus, "1");
+  agent_.SetProgress(status::kProgWndSection, status::kProgWndValue, "7");
+  agent_.machine.Run(2000);
+  EXPECT_FALSE(IsOpen());
+  EXPECT_FALSE(agent_.Item("mnuStatus").Enabled());
+}
+
+TEST_F(StatusWindowTest, ACancelledInteractiveBackupLeavesACleanChannel) {
+  agent_.machine.processes().Start(agent_.Path("SorvaneEClsClient.exe"));
+  agent_.SetProgress(status::kBackupProgressSection, status::kBackupInProgress, "1");
+  agent_.SetProgress(status::kProgWndSection, status::kProgWndStatus, "0");
+  agent_.SetProgress(status::kProgWndSection, status::kProgWndValue, "7");
+  agent_.SetProgress(status::kProgWndSection, status::kProgWndJob, "1");
+  Start();
+  OpenFromMenu();
+  agent_.machine.Run(2000);
+  agent_.host.AnswerWith("Continue");
+  agent_.machine.journal().Clear();
+  agent_.host.Click(kWindow, "cmd_ProgCancel");
+  EXPECT_THAT(Effects(agent_),
+              Contains("ask Are you sure you want to cancel the backup operation ?"));
+  EXPECT_FALSE(IsOpen());
+  EXPECT_FALSE(agent_.machine.processes().IsRunning("SorvaneEClsClient.exe"));
+  EXPECT_EQ(agent_.Status(status::kCancel), "1");
+  const std::string progress = agent_.UserPath(status::kProgressFile);
+  EXPECT_EQ(
+      agent_.machine.files().IniValue(progress, status::kProgWndSection, status::kProgWndValue),
+      "0");
+}
+
+}  // namespace
+}  // namespace agent
