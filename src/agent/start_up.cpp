@@ -6,6 +6,7 @@
 #include "agent/partner_edition.h"
 #include "agent/product_config.h"
 #include "schedule/default_schedule.h"
+#include "schedule/locale_formats.h"
 #include "shared/file_names.h"
 #include "shared/keys.h"
 #include "shared/paths.h"
@@ -46,8 +47,9 @@ bool StartUp::Main() {
   // 4. The screen cannot be asked for its scale, which stays 0: no screen has small fonts.
   constexpr double kScale = 0;
   state_.LargeFonts = kScale != 1.0;
-  // 5. Texts.
+  // 5. Texts, and how the user writes dates.
   LoadTexts(texts_, shared_texts_);
+  schedule::LoadLocaleFormats(machine_.locale, state_);
   state_.ServiceStartTries = 0;
   // 6. and 7. The partner edition.
   ApplyPartnerEdition(machine_.files, state_);

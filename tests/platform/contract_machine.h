@@ -90,8 +90,9 @@ class ContractMachine {
   virtual void PutService(std::string_view name, platform::ServiceState state) = 0;
 
   // Puts a library at `path`: a string table with 1 "One", 7 "Sieben", 1575 "Log Viewer", 4095 "x"
-  // repeated 300 times, and the exported functions `AddOne` (gives its argument plus one) and
-  // `Negate`.
+  // repeated 300 times, and the exported functions `AddOne` (gives its argument plus one), `Negate`
+  // and `LeaveMark` (takes a text, makes "mark" the content of the file at that path, and fills the
+  // buffer).
   virtual void PutLibrary(std::string_view path) = 0;
 };
 

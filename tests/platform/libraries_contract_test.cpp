@@ -76,4 +76,22 @@ TEST_F(LibrariesContract, KeepsWhatItHasLoaded) {
   }
 }
 
+TEST_F(LibrariesContract, CallsAFunctionWithAText) {
+  machine_->PutLibrary(path_);
+  EXPECT_TRUE(libraries().CallWithText(path_, "LeaveMark", In("mark.txt")));
+  EXPECT_EQ(machine_->FileBytes(In("mark.txt")), "mark");
+}
+
+TEST_F(LibrariesContract, ATextWithoutALibraryOrFunctionIsNotHandedOver) {
+  EXPECT_FALSE(libraries().CallWithText(path_, "LeaveMark", In("mark.txt")));
+  machine_->PutLibrary(path_);
+  EXPECT_FALSE(libraries().CallWithText(path_, "LeaveNoMark", In("mark.txt")));
+  EXPECT_EQ(machine_->FileBytes(In("mark.txt")), std::nullopt);
+}
+
+TEST_F(LibrariesContract, ATextThatDoesNotFitIsNotHandedOver) {
+  machine_->PutLibrary(path_);
+  EXPECT_FALSE(libraries().CallWithText(path_, "LeaveMark", std::string(260, 'x')));
+}
+
 }  // namespace

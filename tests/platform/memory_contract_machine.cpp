@@ -147,6 +147,8 @@ class MemoryContractMachine final : public ContractMachine {
     libraries.PutString(path, 4095, std::string(300, 'x'));
     libraries.PutFunction(path, "AddOne", [](std::int32_t number) { return number + 1; });
     libraries.PutFunction(path, "Negate", [](std::int32_t number) { return -number; });
+    libraries.PutTextFunction(
+        path, "LeaveMark", [this](std::string_view mark) { machine_.files().Put(mark, "mark"); });
   }
 
  private:

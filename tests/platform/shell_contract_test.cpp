@@ -158,4 +158,17 @@ TEST_F(ShellContract, TakesATipThatIsTooLong) {
   EXPECT_TRUE(shell().RemoveIcon());
 }
 
+TEST_F(ShellContract, KnownFoldersAreFullPathsWithoutAFinalBackslash) {
+  using platform::KnownFolder;
+  for (const KnownFolder which :
+       {KnownFolder::kDesktop, KnownFolder::kDocuments, KnownFolder::kMusic, KnownFolder::kPictures,
+        KnownFolder::kVideos, KnownFolder::kFavourites, KnownFolder::kCommonFavourites,
+        KnownFolder::kInternetCache, KnownFolder::kCookies, KnownFolder::kTemporary}) {
+    const std::string path = shell().FindFolder(which);
+    ASSERT_GT(path.size(), 3u) << static_cast<int>(which);
+    EXPECT_EQ(path.substr(1, 2), ":\\");
+    EXPECT_FALSE(path.ends_with('\\')) << path;
+  }
+}
+
 }  // namespace
