@@ -52,7 +52,7 @@ class Shell {
   virtual int Open(std::string_view file, std::string_view arguments, std::string_view folder,
                    WindowShow show) = 0;
 
-  // Starts a program and keeps its handle.
+  // Starts a program and keeps its handle open until sixteen more were started.
   virtual StartResult Start(ShellVerb verb, std::string_view file, std::string_view arguments,
                             std::string_view folder, WindowShow show) = 0;
 

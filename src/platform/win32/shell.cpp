@@ -13,6 +13,9 @@ namespace {
 static_assert(kShellNoAssociation == SE_ERR_NOASSOC);
 static_assert(SEE_MASK_NOCLOSEPROCESS == 64);
 
+// Waits nest a few deep at most; without a limit months of starts would leak their handles.
+constexpr std::size_t kKeptProcesses = 16;
+
 int ToShowCommand(WindowShow show) {
   return show == WindowShow::kHidden ? SW_HIDE : SW_SHOWNORMAL;
 }
@@ -65,6 +68,7 @@ StartResult Shell::Start(ShellVerb verb, std::string_view file, std::string_view
   if (!ShellExecuteExA(&info)) return {.handle = kNoProcess, .error = LastError()};
   if (info.hProcess == nullptr) return {};
   started_.emplace_back(info.hProcess);
+  if (started_.size() > kKeptProcesses) started_.pop_front();
   return {.handle = reinterpret_cast<ProcessHandle>(info.hProcess), .error = 0};
 }
 

@@ -1,7 +1,7 @@
 // The shell of Windows.
 #pragma once
 
-#include <vector>
+#include <deque>
 
 #include "platform/shell.h"
 #include "platform/win32/notification_icon.h"
@@ -40,7 +40,7 @@ class Shell final : public platform::Shell {
  private:
   NotificationIcon icon_;
   Pictures pictures_;
-  std::vector<ScopedHandle> started_;  // kept open: callers wait on them at any time later
+  std::deque<ScopedHandle> started_;  // the latest few: callers wait on them at any time later
 };
 
 }  // namespace platform::win32
