@@ -58,12 +58,13 @@ void TrayCommands::OpenStatusWindow() {
 }
 
 void TrayCommands::ShowEndOfJob() {
-  if (!StatusWindowIsOpen()) {
-    StatusWindow().Show();
-    return;
-  }
+  // The outcome is to be seen at once, not at the next refresh of the minute.
   state_.ForceStatusRefresh = true;
-  status_window_->EnableStatusTimer();
+  if (StatusWindowIsOpen()) {
+    status_window_->EnableStatusTimer();
+  } else {
+    StatusWindow().Show();
+  }
 }
 
 void TrayCommands::CloseStatusWindow() {

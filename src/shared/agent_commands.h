@@ -32,7 +32,8 @@ class AgentCommands {
   // Opens the status window, or brings the open one to the front.
   virtual void OpenStatusWindow() = 0;
 
-  // Opens the status window because a job has ended; an open one refreshes at its next tick.
+  // Opens the status window because a job has ended, with its outcome; an open one shows it at its
+  // next tick.
   virtual void ShowEndOfJob() {}
 
   // Opens the window that lists the session logs.

@@ -50,10 +50,15 @@ TEST_F(StatusWindowTest, TheMenuOpensItOnce) {
   EXPECT_EQ(agent_.host.Read(kWindow, "lblUserName"), "ann");
 }
 
-TEST_F(StatusWindowTest, TheEndOfAJobOpensIt) {
+TEST_F(StatusWindowTest, TheEndOfAJobOpensItWithTheOutcome) {
+  agent_.PutUserFile(status::kScheduleDataFile,
+                     "0\r\n1\b\btventbkupjob\b\b03-02-2024 02:00:00\b\b\r\n");
+  agent_.PutUserFile(status::kOutcomeFile, "12 files were backed up.\r\n");
+  agent_.SetStatus(status::kScheduleEndTime, "03-01-2024 09:58:00");
   Start();
   EndJob();
   EXPECT_TRUE(IsOpen());
+  EXPECT_EQ(agent_.host.Read(kWindow, "lblHoursInfo"), "12 files were backed up.");
   EXPECT_FALSE(agent_.state().ForceStatusRefresh);
   EXPECT_EQ(agent_.Status(status::kStatusWindow), "0");
 }
