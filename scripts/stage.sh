@@ -12,8 +12,11 @@ lab_programs=(
   "lab_recorder SorvaneEBckupsetSize.exe SorvaneEContextMenu.exe SorvaneELaunchDrive.exe"
   "lab_recorder SorvaneEReg2ini.exe"
   "lab_web_plugin SorvanePlugin.exe"
+  "lab_explorer LabExplorer.exe"
 )
-lab_batch_files=(InstallSorvaneEService.bat StartSorvaneEService.bat StopSorvaneEService.bat)
+lab_libraries=(SorvaneERealTime ShellHlpr)
+lab_service="SorvaneE Service.exe"
+lab_service_verbs=(Install Start Stop)
 
 # put_file FROM TO: replaces TO even while somebody runs it.
 put_file() {
@@ -33,15 +36,20 @@ stage_product() {
 }
 
 stage_lab() {
-  local dir="$1" entry words name batch
+  local dir="$1" entry words name library verb
   for entry in "${lab_programs[@]}"; do
     read -ra words <<<"$entry"
     for name in "${words[@]:1}"; do
       put_file "build/windows-x64/lab/${words[0]}.exe" "$dir/$name"
     done
   done
-  for batch in "${lab_batch_files[@]}"; do
-    printf '@echo off\r\necho %%TIME%% %%~nx0 [%%*]>> "%%~dp0LabCalls.txt"\r\n' >"$dir/$batch"
+  for library in "${lab_libraries[@]}"; do
+    put_file "build/windows-x64/lab/$library.dll" "$dir/$library.dll"
+  done
+  put_file build/windows-x64/lab/lab_service.exe "$dir/$lab_service"
+  for verb in "${lab_service_verbs[@]}"; do
+    printf '@echo off\r\necho %%TIME%% %%~nx0 [%%*]>> "%%~dp0LabCalls.txt"\r\n"%%~dp0%s" %s\r\n' \
+      "$lab_service" "${verb,,}" >"$dir/${verb}SorvaneEService.bat"
   done
 }
 
@@ -50,7 +58,8 @@ stage() {
   local dir="$1" with_lab="${2:-}"
   local targets=(SorvaneETray)
   [ -z "$with_lab" ] ||
-    targets+=(lab_engine_client lab_background lab_main_program lab_recorder lab_web_plugin)
+    targets+=(lab_engine_client lab_background lab_main_program lab_recorder lab_web_plugin
+      lab_explorer lab_service "${lab_libraries[@]}")
   setup build test bench
   configure_and_build windows-x64 "${targets[@]}"
   configure_and_build native lab_configuration

@@ -7,9 +7,14 @@
 namespace lab {
 namespace {
 
-std::string ExecutablePath() {
+// Of the file that this code was linked into: a program, or a library in another one's process.
+std::string OwnPath() {
+  HMODULE own = nullptr;
+  GetModuleHandleExA(
+      GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+      reinterpret_cast<LPCSTR>(&OwnPath), &own);
   char path[MAX_PATH] = "";
-  GetModuleFileNameA(nullptr, path, MAX_PATH);
+  GetModuleFileNameA(own, path, MAX_PATH);
   return path;
 }
 
@@ -26,13 +31,13 @@ std::string RawArguments() {
 
 }  // namespace
 
-std::string ExecutableFolder() {
-  const std::string path = ExecutablePath();
+std::string OwnFolder() {
+  const std::string path = OwnPath();
   return path.substr(0, path.rfind('\\'));
 }
 
-std::string ExecutableName() {
-  const std::string path = ExecutablePath();
+std::string OwnName() {
+  const std::string path = OwnPath();
   return path.substr(path.rfind('\\') + 1);
 }
 
@@ -44,12 +49,17 @@ std::string Arguments() {
 }
 
 void NoteCall() {
+  NoteCall(RawArguments());
+}
+
+void NoteCall(std::string_view arguments) {
   SYSTEMTIME now;
   GetLocalTime(&now);
-  std::FILE* file = std::fopen((ExecutableFolder() + "\\LabCalls.txt").c_str(), "ab");
+  std::FILE* file = std::fopen((OwnFolder() + "\\LabCalls.txt").c_str(), "ab");
   if (!file) return;
-  std::fprintf(file, "%02u:%02u:%02u.%03u %s [%s]\r\n", now.wHour, now.wMinute, now.wSecond,
-               now.wMilliseconds, ExecutableName().c_str(), RawArguments().c_str());
+  std::fprintf(file, "%02u:%02u:%02u.%03u %s [%.*s]\r\n", now.wHour, now.wMinute, now.wSecond,
+               now.wMilliseconds, OwnName().c_str(), static_cast<int>(arguments.size()),
+               arguments.data());
   std::fclose(file);
 }
 
