@@ -2,6 +2,8 @@
 option(SORVANE_TESTS "Build the tests" ON)
 option(SORVANE_BENCH "Build the benchmarks" OFF)
 option(SORVANE_FUZZ "Build the fuzz targets (needs clang)" OFF)
+# Test sources are compiled once for each change and run for seconds: compiling them fast is worth more.
+set(SORVANE_TEST_OPTIONS "" CACHE STRING "Compiler options of test sources only")
 
 # sorvane_library(name SOURCES file... [LINKS lib...]): product code, without exceptions and RTTI.
 function(sorvane_library name)
@@ -19,7 +21,7 @@ function(sorvane_test name)
   add_executable(${name} ${ARG_SOURCES})
   target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}")
   # As the product: a window's type information is nowhere to be linked from.
-  target_compile_options(${name} PRIVATE -fno-rtti)
+  target_compile_options(${name} PRIVATE -fno-rtti ${SORVANE_TEST_OPTIONS})
   target_link_libraries(${name} PRIVATE ${ARG_LINKS} GTest::gtest GTest::gtest_main)
   if(WIN32)
     target_link_options(${name} PRIVATE -static)

@@ -3,6 +3,6 @@
 
 setup build test bench
 configure_and_build windows-x64
-configure_and_build windows-x86
+configure_and_build windows-x86 SorvaneETray
 configure_and_build native
 say "the program is build/windows-x64/src/app/SorvaneETray.exe"

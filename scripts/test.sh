@@ -8,7 +8,7 @@
 setup build test screen
 configure_and_build native-asan
 configure_and_build windows-x64
-configure_and_build windows-x86
+configure_and_build windows-x86 SorvaneETray
 
 mkdir -p build/test
 printf 'subdirs("%s" "%s")\n' "$PWD/build/native-asan" "$PWD/build/windows-x64" \
