@@ -255,6 +255,12 @@ def hide(canvas):
     canvas.line([(16, 44), (48, 44)], 6, SLATE)
 
 
+def slider_knob_1(canvas):
+    canvas.disc(32, 32, 31, BLUE)
+    canvas.disc(32, 32, 23, WHITE)
+    canvas.disc(32, 32, 13, BLUE)
+
+
 def sorvane(canvas):
     """The program's own icon: the cloud on a tile."""
     canvas.box(2, 2, 62, 62, 14, DEEP_BLUE)
@@ -281,6 +287,7 @@ ICONS = (
     ("info", info, SIZES),
     ("warn", warn, SIZES),
     ("question", question, SIZES),
+    ("slider_knob1", slider_knob_1, SIZES),
     ("close", close, SIZES),
     ("hide", hide, SIZES),
     ("sorvane", sorvane, SIZES + LARGE),

@@ -65,10 +65,15 @@ class frmStatus : public forms::Form, private StatusScreen {
   forms::Label lblSpaceUsed{*this, "lblSpaceUsed", "Space Used:", forms::LabelStyle::kMuted};
   forms::Label lblQuotaInfo{*this, "lblQuotaInfo", ""};
   forms::ProgressBar QuotaProgressbar{*this, "QuotaProgressbar"};
+  forms::Picture imgStatus{*this, "imgStatus", "APP", {40, 40}};
   forms::Label lblHoursInfo{*this, "lblHoursInfo", ""};
   forms::Label lblBkupInfo{*this, "lblBkupInfo", "", forms::LabelStyle::kMuted};
 
-  // The transfer.
+  // The transfer. The order is that of the Tab key: pause and cancel come first.
+  forms::Button cmd_ProgPause{*this, "cmd_ProgPause", "Pause"};
+  forms::Picture imgProgPuaseResume{*this, "imgProgPuaseResume", "pause", {16, 16}};
+  forms::Button cmd_ProgCancel{*this, "cmd_ProgCancel", "Cancel"};
+  forms::Picture imgProgCancel{*this, "imgProgCancel", "Small Btn1", {16, 16}};
   forms::Label BkupProgress{*this, "BkupProgress", ""};
   forms::ProgressBar ProgressBarXP1{*this, "ProgressBarXP1"};
   forms::Label lblFileCountBkup{*this, "lblFileCountBkup", ""};
@@ -88,20 +93,16 @@ class frmStatus : public forms::Form, private StatusScreen {
                                 "Note: Auto-Pause is checked. This means backups may be very slow "
                                 "during user activity.",
                                 forms::LabelStyle::kMuted};
-  forms::Button cmd_ProgPause{*this, "cmd_ProgPause", "Pause"};
-  forms::Picture imgProgPuaseResume{*this, "imgProgPuaseResume", "pause", {16, 16}};
-  forms::Button cmd_ProgCancel{*this, "cmd_ProgCancel", "Cancel"};
-  forms::Picture imgProgCancel{*this, "imgProgCancel", "Small Btn1", {16, 16}};
 
   // Below both.
-  forms::CheckBox chkDesNotify1{*this, "chkDesNotify1",
-                                "Show this dialog after each schedule backup"};
   forms::Button Cmd_ProgViewLog{*this, "Cmd_ProgViewLog", "View Log"};
   forms::Picture imgProgViewLog{*this, "imgProgViewLog", "Small Btn1", {16, 16}};
   forms::Button Cmd_Yes{*this, "Cmd_Yes", "View Log"};
   forms::Picture imgViewLog{*this, "imgViewLog", "Small Btn1", {16, 16}};
   forms::Button Cmd_No{*this, "Cmd_No", "Close", forms::ButtonRole::kCancel};
   forms::Picture imgClose{*this, "imgClose", "Small Btn1", {16, 16}};
+  forms::CheckBox chkDesNotify1{*this, "chkDesNotify1",
+                                "Show this dialog after each schedule backup"};
 
   // Grounds, and the groups that are shown and hidden together.
   forms::Frame fraTitle{*this, "fraTitle", forms::theme::kWindow};

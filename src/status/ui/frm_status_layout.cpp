@@ -17,8 +17,10 @@ namespace theme = forms::theme;
 constexpr int kTitlePadding = 10;
 constexpr int kTitleHeight = 22;
 constexpr int kLabelColumn = 100;
-constexpr int kFaceHeight = 262;
-constexpr int kCardHeight = 128;
+constexpr int kFaceHeight = 278;
+constexpr int kCardHeight = 158;
+constexpr int kCardPadding = 24;
+constexpr int kIdleGap = 12;
 constexpr int kPathHeight = 40;
 constexpr int kCounterColumn = 230;
 constexpr int kBoxWidth = 150;
@@ -35,7 +37,7 @@ void frmStatus::Nest() {
                                           &QuotaProgressbar, &fraStatus}) {
     control->SetContainer(idleFrame);
   }
-  for (forms::Control* control : Controls{&lblHoursInfo, &lblBkupInfo}) {
+  for (forms::Control* control : Controls{&imgStatus, &lblHoursInfo, &lblBkupInfo}) {
     control->SetContainer(fraStatus);
   }
   for (forms::Control* control : Controls{&BkupProgress,
@@ -79,7 +81,10 @@ Cell frmStatus::Layout() {
              Line({Item(lblSpaceUsed).Width(kLabelColumn), Item(lblQuotaInfo).Grow()}),
              Item(QuotaProgressbar), Space(theme::kGap),
              Pile({Item(fraStatus).Height(kCardHeight),
-                   Stack({Item(lblHoursInfo), Item(lblBkupInfo)}).Padding(theme::kMargin)})});
+                   Line({Item(imgStatus), Stack({Item(lblHoursInfo), Item(lblBkupInfo)}).Grow()})
+                       .Gap(theme::kMargin)
+                       .Padding(kCardPadding)})})
+          .Gap(kIdleGap);
 
   const Cell counters = Line(
       {Stack({Item(lblFileCountBkup), Item(lblTransferRateBkup).KeepRoom()}).Width(kCounterColumn),
@@ -93,7 +98,7 @@ Cell frmStatus::Layout() {
   const Cell transfer =
       Stack({Item(BkupProgress), Item(ProgressBarXP1), counters,
              Stack({Item(lblBackup), Item(BkupFilepath).Height(kPathHeight)}).Gap(2), bandwidth,
-             Item(LblAutoPauseInfo),
+             Item(LblAutoPauseInfo), Space(),
              Line({Space().Grow(), Pile({Item(cmd_ProgPause), Item(imgProgPuaseResume)}),
                    Pile({Item(cmd_ProgCancel), Item(imgProgCancel)})})})
           .Gap(theme::kGap + 2);
