@@ -39,16 +39,6 @@ platform::LocalTime AddDays(const platform::LocalTime& time, int days) {
   return result;
 }
 
-platform::LocalTime AddMinutes(const platform::LocalTime& time, std::int64_t minutes) {
-  constexpr std::int64_t kDay = 24 * 60;
-  const std::int64_t sum = time.hour * 60 + time.minute + minutes;
-  const std::int64_t rest = ((sum % kDay) + kDay) % kDay;
-  platform::LocalTime result = AddDays(time, static_cast<int>((sum - rest) / kDay));
-  result.hour = static_cast<int>(rest / 60);
-  result.minute = static_cast<int>(rest % 60);
-  return result;
-}
-
 std::int64_t MinutesBetween(const platform::LocalTime& first, const platform::LocalTime& second) {
   return MinutesSinceEpoch(second) - MinutesSinceEpoch(first);
 }

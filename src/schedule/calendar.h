@@ -13,9 +13,6 @@ bool IsRealTime(const platform::LocalTime& time);
 // The moment `days` later (earlier when negative).
 platform::LocalTime AddDays(const platform::LocalTime& time, int days);
 
-// The same with minutes.
-platform::LocalTime AddMinutes(const platform::LocalTime& time, std::int64_t minutes);
-
 // Whole minutes from `first` to `second`; negative when `second` is earlier. Seconds do not count.
 std::int64_t MinutesBetween(const platform::LocalTime& first, const platform::LocalTime& second);
 

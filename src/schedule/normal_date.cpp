@@ -51,7 +51,7 @@ std::string ValidateSorvaneDateFormat(std::string_view text) {
   const std::string_view bare = shared::Trim(shared::StripNulls(upper));
   const std::string normal = shared::ReplaceAll(bare, DateSeparator(bare), "-");
   const std::size_t blank = normal.find(' ');
-  const std::string date = PadParts(std::string_view(normal).substr(0, blank), "-");
+  std::string date = PadParts(std::string_view(normal).substr(0, blank), "-");
   if (blank == std::string::npos) return date;
   const std::string_view time = shared::Trim(std::string_view(normal).substr(blank));
   return date + " " + ValidateSorvaneTimeFormat(time, is_pm);

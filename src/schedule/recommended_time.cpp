@@ -30,14 +30,14 @@ int Draw(platform::Random& random, int first, int last) {
 }  // namespace
 
 platform::LocalTime PickRecommendedTime(const platform::LocalTime& now, platform::Random& random) {
-  // 1. The night that is going on ends at `base`.
-  const platform::LocalTime base = AtHour(now, kMorning);
+  // 1. Before kMorning the night that is going on has not ended.
+  const bool is_night = now.hour < kMorning;
   // 2.
   const int hour = Draw(random, 1, kHours);
   // 3. and 4. Seven to eleven in the evening, or one to six in the morning after it.
   const int candidate = hour > kMorning ? std::min(hour + 12, kLatestEvening) : hour + 24;
   // 5. Early in the morning the coming night is a whole day away: every candidate lies in it.
-  if (now < base) return AtHour(now, candidate);
+  if (is_night) return AtHour(now, candidate);
   // 6. Later some of it may have passed: the hour comes from what is left.
   return AtHour(now, Draw(random, std::max(now.hour + 1, kEvening), kMorning + 24));
 }
