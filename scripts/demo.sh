@@ -8,7 +8,7 @@
 setup build test bench screen
 mkdir -p build/logs
 trap stop_screen EXIT
-start_screen 1024x768
+start_screen 800x600
 use_wine_prefix demo
 
 installation="$WINEPREFIX/drive_c/Sorvane"
@@ -19,7 +19,7 @@ configure_and_build windows-x64 lab_observer
 wine reg delete 'HKCU\Software\Bellwick-Labs' /f >/dev/null 2>&1 || true # of an earlier demo
 
 say "the shell"
-wine explorer /desktop=shell,1024x768 >/dev/null 2>&1 &
+wine explorer /desktop=shell,800x600 >/dev/null 2>&1 &
 say "playing; seconds, icon, who, what"
 PYTHONDONTWRITEBYTECODE=1 python3 lab/demo/play.py "$installation" \
   build/windows-x64/lab/lab_observer.exe out/demo ||

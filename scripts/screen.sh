@@ -25,11 +25,11 @@ use_wine_prefix() {
   export WINEDEBUG=-all
   # No offers to download a script engine or an HTML engine.
   export WINEDLLOVERRIDES="mscoree=;mshtml="
-  if [ ! -f "$WINEPREFIX/made" ]; then
+  if [ ! -f "$WINEPREFIX/made-2" ]; then
     rm -rf "$WINEPREFIX"
     step "preparing a Windows environment in build/wine-$1" "read build/logs/wineboot.log" \
       boot_wine_prefix
-    touch "$WINEPREFIX/made"
+    touch "$WINEPREFIX/made-2"
   fi
 }
 

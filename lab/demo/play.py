@@ -59,7 +59,7 @@ class Demo:
         time.sleep(1.2)
 
     def leave_icon(self):
-        self.desk.move((400, 300, 402, 302))
+        self.desk.move((300, 200, 302, 202))
 
     def wait_for_window(self, class_name, seconds=60):
         window = wait_for(f"the window {class_name}", lambda: self.desk.window(class_name), seconds)
@@ -128,6 +128,8 @@ class Demo:
         self.desk.click(self.icon().place, button=3)
         self.wait_for_window(MENU)
         if photograph:
+            self.desk.move(self.desk.text_rows(self.desk.window(MENU).place)[1])
+            time.sleep(1)
             self.timeline.photograph("menu", "the menu")
 
     def choose(self, item):

@@ -49,6 +49,10 @@ void LogIn(const Ports& ports, platform::Registry& registry, const Places& place
   const std::string connection = root + std::string(shared::registry::kConnectionParameters);
   registry.CreateKey(platform::Hive::kCurrentUser, root);
   registry.Write(platform::Hive::kCurrentUser, root, shared::registry::kInstalledFirst, Text("1"));
+  const std::string application = root + std::string(shared::registry::kApplication);
+  registry.CreateKey(platform::Hive::kCurrentUser, application);
+  registry.Write(platform::Hive::kCurrentUser, application, shared::registry::kVersion,
+                 Text("1.0.0"));
   registry.CreateKey(platform::Hive::kCurrentUser, connection);
   registry.Write(platform::Hive::kCurrentUser, connection, shared::registry::kConnectionStatus,
                  Number(1));

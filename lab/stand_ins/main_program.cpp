@@ -47,8 +47,7 @@ LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wparam, LPARAM lpa
 std::string WindowTitle(lab::StandIn& self) {
   shared::AgentState state;
   state.ProductFolder = self.places().product_folder;
-  const std::string version =
-      shared::RegistryStore(self.machine(), state).ReadAppValue(shared::registry::kVersion);
+  const std::string version = shared::RegistryStore(self.machine(), state).ReadApplicationVersion();
   const std::string user = self.ports().profile_files.ReadText(
       self.places().UserNameIni(), shared::sections::kTolvex, shared::keys::kInteractive);
   return std::string(kCaption) + " " + version + " (" + user + ")";

@@ -1,13 +1,12 @@
-// Prints a Configuration.ini in the form that the agent reads: sections as they are, key names
-// raised by both shifts of the profile, values raised by the shift of this file.
-#include <cstdio>
-#include <string>
+#include "lab/stage/configuration_text.h"
+
 #include <string_view>
 
 #include "shared/character_shift.h"
 #include "shared/configuration_keys.h"
 #include "shared/deployment.h"
 
+namespace lab {
 namespace {
 
 struct Entry {
@@ -36,23 +35,26 @@ std::string Shifted(std::string_view text, int by) {
   return shared::ShiftCharacters(text, by).text;
 }
 
-void PrintSection(std::string_view name) {
-  std::printf("[%.*s]\r\n", static_cast<int>(name.size()), name.data());
+void AddSection(std::string& text, std::string_view name) {
+  text += "[" + std::string(name) + "]\r\n";
 }
 
-void PrintEntry(std::string_view key, std::string_view value) {
-  std::printf("%s=%s\r\n", Shifted(key, shared::kProfileShift + shared::kShareShift).c_str(),
-              Shifted(value, shared::kConfigShift).c_str());
+void AddEntry(std::string& text, std::string_view key, std::string_view value) {
+  text += Shifted(key, shared::kProfileShift + shared::kShareShift) + "=" +
+          Shifted(value, shared::kConfigShift) + "\r\n";
 }
 
 }  // namespace
 
-int main() {
-  PrintSection(shared::config::kProductInfo);
-  for (const Entry& entry : kProductInfo) PrintEntry(entry.key, entry.value);
-  PrintSection(shared::config::kConnectionInfo);
-  for (const Entry& entry : kConnectionInfo) PrintEntry(entry.key, entry.value);
-  PrintSection(shared::config::kWebLink);
-  for (const auto& link : shared::deployment::kWebLinks) PrintEntry(link.key, link.page);
-  return 0;
+std::string ConfigurationText() {
+  std::string text;
+  AddSection(text, shared::config::kProductInfo);
+  for (const Entry& entry : kProductInfo) AddEntry(text, entry.key, entry.value);
+  AddSection(text, shared::config::kConnectionInfo);
+  for (const Entry& entry : kConnectionInfo) AddEntry(text, entry.key, entry.value);
+  AddSection(text, shared::config::kWebLink);
+  for (const auto& link : shared::deployment::kWebLinks) AddEntry(text, link.key, link.page);
+  return text;
 }
+
+}  // namespace lab
