@@ -8,8 +8,9 @@
 setup build test bench screen
 mkdir -p build/logs
 trap stop_screen EXIT
-start_screen 800x600
-use_wine_prefix demo
+screen=800x600
+start_screen "$screen"
+use_wine_prefix demo "$screen"
 
 installation="$WINEPREFIX/drive_c/Sorvane"
 rm -rf "$installation" out/demo
@@ -19,7 +20,7 @@ configure_and_build windows-x64 lab_observer
 wine reg delete 'HKCU\Software\Bellwick-Labs' /f >/dev/null 2>&1 || true # of an earlier demo
 
 say "the shell"
-wine explorer /desktop=shell,800x600 >/dev/null 2>&1 &
+start_shell "$screen"
 say "playing; seconds, icon, who, what"
 PYTHONDONTWRITEBYTECODE=1 python3 lab/demo/play.py "$installation" \
   build/windows-x64/lab/lab_observer.exe out/demo ||

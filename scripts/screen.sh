@@ -19,17 +19,19 @@ start_screen() {
   rm -f "$display_file"
 }
 
-# use_wine_prefix NAME: a private prefix below build/, made at first use and kept for later runs.
+# use_wine_prefix NAME WIDTHxHEIGHT: a private prefix below build/, made at first use and kept for
+# later runs, with a desktop of that size.
 use_wine_prefix() {
   export WINEPREFIX="$PWD/build/wine-$1"
   export WINEDEBUG=-all
   # No offers to download a script engine or an HTML engine.
   export WINEDLLOVERRIDES="mscoree=;mshtml="
-  if [ ! -f "$WINEPREFIX/made-2" ]; then
+  local mark="$WINEPREFIX/made-for-$2"
+  if [ ! -f "$mark" ]; then
     rm -rf "$WINEPREFIX"
     step "preparing a Windows environment in build/wine-$1" "read build/logs/wineboot.log" \
-      boot_wine_prefix
-    touch "$WINEPREFIX/made-2"
+      boot_wine_prefix "$2"
+    touch "$mark"
   fi
 }
 
@@ -39,12 +41,15 @@ boot_wine_prefix() {
   {
     wineboot -i &&
       wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d shell /f &&
-      wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v shell /d 1024x768 /f &&
+      wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v shell /d "$1" /f &&
       wineserver -w &&
       # The pictures of title bars are letters of this font, which Wine does not find by itself.
       cp /usr/share/wine/fonts/marlett.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
   } >build/logs/wineboot.log 2>&1
 }
+
+# start_shell WIDTHxHEIGHT: the task bar; it keeps the Windows environment alive.
+start_shell() { wine explorer "/desktop=shell,$1" >/dev/null 2>&1 & }
 
 stop_screen() {
   if [ -n "${WINEPREFIX:-}" ] && [ -d "${WINEPREFIX:-}" ]; then

@@ -15,10 +15,10 @@ printf 'subdirs("%s" "%s")\n' "$PWD/build/native-asan" "$PWD/build/windows-x64" 
   >build/test/CTestTestfile.cmake
 
 trap stop_screen EXIT
-start_screen 1024x768
-use_wine_prefix test
-# One process keeps the Windows environment alive, so that the tests do not each start it anew.
-wine explorer /desktop=shell,1024x768 >/dev/null 2>&1 &
+screen=1024x768
+start_screen "$screen"
+use_wine_prefix test "$screen"
+start_shell "$screen"
 
 result=0
 ctest --test-dir build/test --output-on-failure --no-tests=error -j "$(nproc)" "$@" || result=$?
