@@ -13,8 +13,7 @@ constexpr int kTitleWidth = 200;
 
 Cell TitleBand(Frame& ground, Label& title, Picture& close) {
   title.SetDragsWindow(true);
-  title.SetContainer(ground);
-  close.SetContainer(ground);
+  ground.Hold({&title, &close});
   return Pile({Item(ground), Line({Space(theme::kMargin - kTitlePadding),
                                    Item(title).Width(kTitleWidth).Grow(), Item(close)})
                                  .Gap(0)

@@ -68,9 +68,9 @@ void clsToolTip::ApplyProperties() {
 }
 
 std::int32_t clsToolTip::DelayTime(TipDelay kind) const {
-  if (window_) return window_->Delay(kind);
   const auto found = delays_.find(kind);
-  return found == delays_.end() ? 0 : found->second;
+  if (found != delays_.end()) return found->second;
+  return window_ ? window_->Delay(kind) : 0;
 }
 
 void clsToolTip::SetDelayTime(TipDelay kind, std::int32_t milliseconds) {

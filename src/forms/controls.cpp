@@ -183,4 +183,8 @@ void DatePicker::Choose(const platform::LocalTime& value) {
   if (on_change) on_change();
 }
 
+void Frame::Hold(std::initializer_list<Control*> controls) {
+  for (Control* control : controls) control->SetContainer(*this);
+}
+
 }  // namespace forms

@@ -1,6 +1,7 @@
 // The kinds of controls.
 #pragma once
 
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -233,6 +234,9 @@ class Frame : public Control {
  public:
   Frame(Form& form, std::string_view name, std::optional<Colour> fill = {})
       : Control(form, ControlKind::kFrame, name, {}), fill_(fill) {}
+
+  // Becomes the container of all of these.
+  void Hold(std::initializer_list<Control*> controls);
 
   // Absent: the ground of what it is in.
   std::optional<Colour> Fill() const { return fill_; }

@@ -20,19 +20,16 @@ constexpr FormDesign kDesign = {
     .corner_radius = theme::kCornerRadius,
 };
 
+void ShowAll(std::initializer_list<Control*> controls, bool show) {
+  for (Control* control : controls) control->SetVisible(show);
+}
+
 }  // namespace
 
 frmGeneralMessage::frmGeneralMessage(FormHost& host, bool& answer)
     : Form(host, kDesign), answer_(answer) {
-  for (Control* control : {static_cast<Control*>(&lblnote), static_cast<Control*>(&lblcdp),
-                           static_cast<Control*>(&Label3)}) {
-    control->SetContainer(fraNote);
-  }
-  for (Control* control : {static_cast<Control*>(&Continue), static_cast<Control*>(&IDCancel),
-                           static_cast<Control*>(&TextCont), static_cast<Control*>(&TextClose),
-                           static_cast<Control*>(&Image1), static_cast<Control*>(&Image3)}) {
-    control->SetContainer(fraButtons);
-  }
+  fraNote.Hold({&lblnote, &lblcdp, &Label3});
+  fraButtons.Hold({&Continue, &IDCancel, &TextCont, &TextClose, &Image1, &Image3});
   fraNote.SetVisible(false);
   // The text boxes stand for the buttons at the keyboard.
   Continue.SetTabStop(false);
@@ -83,14 +80,8 @@ bool frmGeneralMessage::ShowMessageTitled(std::string_view caption, std::string_
   Label1.SetText(text);
   Continue.SetText(first_caption);
   IDCancel.SetText(second_caption);
-  for (Control* control : {static_cast<Control*>(&Continue), static_cast<Control*>(&Image1),
-                           static_cast<Control*>(&TextCont)}) {
-    control->SetVisible(show_first);
-  }
-  for (Control* control : {static_cast<Control*>(&IDCancel), static_cast<Control*>(&Image3),
-                           static_cast<Control*>(&TextClose)}) {
-    control->SetVisible(show_second);
-  }
+  ShowAll({&Continue, &Image1, &TextCont}, show_first);
+  ShowAll({&IDCancel, &Image3, &TextClose}, show_second);
   Image4.SetPicture(picture_key);
   Highlight(show_first, !show_first);
   Load();

@@ -15,10 +15,7 @@ constexpr FormDesign kDesign = {
 }  // namespace
 
 frmSample::frmSample(FormHost& host) : Form(host, kDesign) {
-  for (Control* control : {static_cast<Control*>(&cmdOk), static_cast<Control*>(&cmdClose),
-                           static_cast<Control*>(&cmdDisabled)}) {
-    control->SetContainer(fraButtons);
-  }
+  fraButtons.Hold({&cmdOk, &cmdClose, &cmdDisabled});
   imgClose.on_click = [this] { Unload(); };
   cmdClose.on_click = [this] { Unload(); };
   cmdDisabled.SetEnabled(false);

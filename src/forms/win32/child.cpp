@@ -27,10 +27,11 @@ Child* ChildOf(HWND window) {
 
 }  // namespace
 
-Child::~Child() {
+void Child::Close() {
   if (!window_) return;
   SetWindowLongPtrA(window_.get(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(system_procedure_));
   SetWindowLongPtrA(window_.get(), GWLP_USERDATA, 0);
+  window_.Reset();
 }
 
 bool Child::Create(HWND form) {
@@ -245,16 +246,22 @@ void Child::TrackMouse(UINT message, LPARAM lparam) {
 }
 
 LRESULT Child::PassOn(UINT message, WPARAM wparam, LPARAM lparam) {
+  // A handler may have closed the form.
+  if (!window_) return 0;
   return CallWindowProcA(system_procedure_, window_.get(), message, wparam, lparam);
 }
 
 LRESULT CALLBACK Child::Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
   Child* const child = ChildOf(window);
-  return child ? child->Handle(message, wparam, lparam)
-               : DefWindowProcA(window, message, wparam, lparam);
+  if (child == nullptr) return DefWindowProcA(window, message, wparam, lparam);
+  int& under_way = child->messages_under_way_;
+  ++under_way;
+  const LRESULT result = child->HandleMessage(message, wparam, lparam);
+  --under_way;
+  return result;
 }
 
-LRESULT Child::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
+LRESULT Child::HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) {
   const HWND window = window_.get();
   switch (message) {
     case WM_MOUSEMOVE:

@@ -12,13 +12,18 @@ namespace forms::win32 {
 
 class Child {
  public:
-  Child(Control& control, Screen& screen) : control_(control), screen_(screen) {}
-  ~Child();
+  // `messages_under_way` counts those that the form and its children are busy with.
+  Child(Control& control, Screen& screen, int& messages_under_way)
+      : control_(control), screen_(screen), messages_under_way_(messages_under_way) {}
+  ~Child() { Close(); }
   Child(const Child&) = delete;
   Child& operator=(const Child&) = delete;
 
   // False when the system refuses.
   bool Create(HWND form);
+
+  // Takes the window away and leaves the control alone from now on.
+  void Close();
 
   HWND Handle() const { return window_.get(); }
   Control& Model() const { return control_; }
@@ -41,7 +46,7 @@ class Child {
 
  private:
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
-  LRESULT Handle(UINT message, WPARAM wparam, LPARAM lparam);
+  LRESULT HandleMessage(UINT message, WPARAM wparam, LPARAM lparam);
   LRESULT PassOn(UINT message, WPARAM wparam, LPARAM lparam);
   void TrackMouse(UINT message, LPARAM lparam);
   bool DrawsItself() const;
@@ -55,6 +60,7 @@ class Child {
 
   Control& control_;
   Screen& screen_;
+  int& messages_under_way_;
   platform::win32::ScopedWindow window_;
   WNDPROC system_procedure_ = nullptr;
   bool hover_ = false;

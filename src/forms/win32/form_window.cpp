@@ -70,7 +70,7 @@ void FormWindow::CreateChildren() {
   for (const bool frames : {false, true}) {
     for (Control* control : form_.Controls()) {
       if ((control->Kind() == ControlKind::kFrame) != frames) continue;
-      children_.push_back(std::make_unique<Child>(*control, screen_));
+      children_.push_back(std::make_unique<Child>(*control, screen_, messages_under_way_));
       if (!children_.back()->Create(window_.get())) children_.pop_back();
     }
   }
@@ -79,8 +79,10 @@ void FormWindow::CreateChildren() {
 void FormWindow::Close() {
   if (closed_) return;
   closed_ = true;
-  if (window_) SetWindowLongPtrA(window_.get(), GWLP_USERDATA, 0);
-  // The system takes the children away with their form.
+  if (!window_) return;
+  SetWindowLongPtrA(window_.get(), GWLP_USERDATA, 0);
+  ShowWindow(window_.get(), SW_HIDE);  // as one, not control by control
+  for (const auto& child : children_) child->Close();
   window_.Reset();
 }
 

@@ -2,10 +2,15 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
+
 namespace forms::win32 {
 namespace {
 
 constexpr std::size_t kMostText = 1024;
+
+// The control takes the lower half of the number: a longer delay would come out as a short one.
+constexpr std::int32_t kLongestDelay = 0x7FFF;
 
 HWND ToWindow(platform::WindowId window) {
   return reinterpret_cast<HWND>(window);
@@ -96,7 +101,8 @@ void ToolTipWindow::SetFont(Font font) {
 }
 
 void ToolTipWindow::SetDelay(TipDelay kind, std::int32_t milliseconds) {
-  SendMessageA(window_.get(), TTM_SETDELAYTIME, static_cast<WPARAM>(kind), milliseconds);
+  SendMessageA(window_.get(), TTM_SETDELAYTIME, static_cast<WPARAM>(kind),
+               std::min(milliseconds, kLongestDelay));
 }
 
 std::int32_t ToolTipWindow::Delay(TipDelay kind) {

@@ -206,6 +206,36 @@ TEST_F(RendererTest, ClickHandlerMayUnloadItsOwnForm) {
   EXPECT_FALSE(form_.Loaded());
 }
 
+TEST_F(RendererTest, MouseHandlerMayUnloadItsOwnForm) {
+  form_.imgClose.on_mouse_down = [this](Point) { form_.Unload(); };
+  form_.Show();
+  SendMessageA(WindowOf(form_.imgClose), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(2, 2));
+  EXPECT_FALSE(form_.Loaded());
+  form_.Show();
+  EXPECT_TRUE(form_.Visible());
+}
+
+TEST_F(RendererTest, MousePlacesAreUnitsWithinTheControl) {
+  RealScreen dense(192);
+  frmSample form(dense.host);
+  Point seen;
+  form.barQuota.on_mouse_move = [&seen](Point place) { seen = place; };
+  form.Show();
+  SendMessageA(WindowOf(form.barQuota), WM_MOUSEMOVE, 0, MAKELPARAM(40, 8));
+  EXPECT_EQ(seen, (Point{20, 4}));
+}
+
+TEST_F(RendererTest, QuietFormLeavesTheKeyboardWhereItIs) {
+  form_.Show();
+  SetForegroundWindow(WindowOf(form_));
+  form_.txtName.SetFocus();
+  frmWelcome alert(screen_.host, {});
+  alert.Show();
+  screen_.Settle();
+  EXPECT_TRUE(IsWindowVisible(WindowOf(alert)));
+  EXPECT_TRUE(form_.txtName.HasFocus());
+}
+
 TEST_F(RendererTest, WindowGrowsWithALongerText) {
   form_.Show();
   RECT before;

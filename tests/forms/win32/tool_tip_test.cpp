@@ -47,8 +47,11 @@ TEST_F(RealToolTipTest, AddsRenamesAndRemovesTools) {
 TEST_F(RealToolTipTest, WrapsAtItsWidthAndStaysWhileTheMouseRests) {
   tip_.SetMaxTipWidth(100);
   tip_.SetDelayTime(TipDelay::kInitial, 300);
+  tip_.SetDelayTime(TipDelay::kAutoPop, 1000000);
   EXPECT_EQ(SendMessageA(Tip(), TTM_GETMAXTIPWIDTH, 0, 0), 100);
-  EXPECT_EQ(tip_.DelayTime(TipDelay::kInitial), 300);
+  EXPECT_EQ(SendMessageA(Tip(), TTM_GETDELAYTIME, TTDT_AUTOPOP, 0), 0x7FFF);
+  EXPECT_EQ(tip_.DelayTime(TipDelay::kAutoPop), 1000000);
+  EXPECT_EQ(SendMessageA(Tip(), TTM_GETDELAYTIME, TTDT_INITIAL, 0), 300);
 }
 
 TEST_F(RealToolTipTest, TakesColoursMarginsAndShape) {
