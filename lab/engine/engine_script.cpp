@@ -16,10 +16,9 @@ struct EndingWord {
   JobEnding ending;
 };
 constexpr EndingWord kEndings[] = {
-    {"success", JobEnding::kSuccess},
-    {"failure", JobEnding::kFailure},
-    {"quota", JobEnding::kQuotaExceeded},
-    {"crash", JobEnding::kCrash},
+    {"success", JobEnding::kSuccess},     {"failure", JobEnding::kFailure},
+    {"quota", JobEnding::kQuotaExceeded}, {"crash", JobEnding::kCrash},
+    {"freeze", JobEnding::kFreeze},
 };
 
 int NumberOr(const std::string& text, int fallback) {

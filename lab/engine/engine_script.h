@@ -3,7 +3,8 @@
 //
 //   [Job]       Files=8          files of a transfer
 //               Interval=2000    milliseconds from one file to the next
-//               Ending=success   success, failure, quota or crash
+//               Ending=success   success, or what happens half way: failure, quota, crash, or
+//                                freeze (stays, hears nothing and never ends)
 //   [Commands]  23=-416,slow 5000,402    one answer for each attempt, the last one repeated
 //   [Attempts]  23=2             attempts so far; the engine counts
 //
@@ -21,7 +22,7 @@
 
 namespace lab {
 
-enum class JobEnding { kSuccess, kFailure, kQuotaExceeded, kCrash };
+enum class JobEnding { kSuccess, kFailure, kQuotaExceeded, kCrash, kFreeze };
 
 struct JobPlan {
   int files = 8;

@@ -1,6 +1,8 @@
 #include "lab/engine/transfer_job.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 
 #include "lab/engine/moments.h"
 #include "shared/file_names.h"
@@ -26,7 +28,11 @@ using shared::keys::kStarted;
 // The agent acknowledges the end within a tick or two; an engine without an agent goes on.
 constexpr std::uint32_t kAcknowledgeStep = 500;
 constexpr int kAcknowledgeSteps = 40;
-constexpr std::uint32_t kPauseStep = 500;
+// How often a transfer looks for the user's word.
+constexpr std::uint32_t kListenStep = 500;
+// The engine's own progress window, which exists and stays hidden: the agent's shows the transfer.
+constexpr std::string_view kWindowHandle = "131330";
+constexpr std::string_view kWindowHidden = "0";
 constexpr std::uint32_t kFileBytes = 1500 * 1024;
 constexpr std::string_view kSessionFolder = "session";
 
@@ -103,6 +109,8 @@ std::optional<std::uint32_t> TransferJob::Step() {
       return Transfer();
     case Phase::kAcknowledge:
       return AwaitAcknowledgement();
+    case Phase::kFrozen:
+      return kListenStep;
     case Phase::kOver:
     case Phase::kCrashed:
       break;
@@ -114,7 +122,8 @@ std::optional<std::uint32_t> TransferJob::Start() {
   started_ = clock_.Now();
   started_at_ = clock_.Milliseconds();
   SetStatus(status::kCancel, "0");
-  SetProgWnd(status::kProgWndValue, "0");
+  SetProgWnd(status::kProgWndValue, kWindowHandle);
+  SetProgWnd(status::kProgWndStatus, kWindowHidden);
   SetProgWnd(status::kProgWndJob, std::to_string(static_cast<int>(kind_)));
   if (scheduled()) {
     SetStatus(status::kRetValue, "");
@@ -124,7 +133,8 @@ std::optional<std::uint32_t> TransferJob::Start() {
   }
   SetProgress(NamesOf(kind_).in_progress, "1");
   phase_ = Phase::kTransfer;
-  return plan_.interval;
+  until_next_file_ = FilePeriod();
+  return Listen();
 }
 
 void TransferJob::MarkScheduleRunning() {
@@ -140,30 +150,55 @@ void TransferJob::MarkScheduleRunning() {
 }
 
 std::optional<std::uint32_t> TransferJob::Transfer() {
-  if (Status(status::kCancel) == "1") {
-    End(Outcome::kCancelled);
-  } else if (Status(status::kPaused) == "1") {
-    return kPauseStep;
-  } else if (files_done_ < plan_.files) {
-    ++files_done_;
-    WriteProgress();
-    const bool half_done = files_done_ * 2 >= plan_.files;
-    if (half_done && plan_.ending == JobEnding::kCrash) {
+  if (Status(status::kCancel) == "1") return EndWith(Outcome::kCancelled);
+  if (Status(status::kPaused) == "1") {
+    until_next_file_ = 0;
+    return kListenStep;
+  }
+  if (until_next_file_ > 0) return Listen();
+  if (files_done_ == plan_.files) return EndWith(Outcome::kSuccess);
+  ++files_done_;
+  WriteProgress();
+  until_next_file_ = FilePeriod();
+  return files_done_ * 2 >= plan_.files ? SecondHalf() : Listen();
+}
+
+// A job that does not end well does so here.
+std::optional<std::uint32_t> TransferJob::SecondHalf() {
+  switch (plan_.ending) {
+    case JobEnding::kSuccess:
+      break;
+    case JobEnding::kFailure:
+      return EndWith(Outcome::kFailure);
+    case JobEnding::kQuotaExceeded:
+      return EndWith(Outcome::kQuotaExceeded);
+    case JobEnding::kCrash:
       phase_ = Phase::kCrashed;
       return std::nullopt;
-    }
-    if (half_done && plan_.ending == JobEnding::kFailure) {
-      End(Outcome::kFailure);
-    } else if (half_done && plan_.ending == JobEnding::kQuotaExceeded) {
-      End(Outcome::kQuotaExceeded);
-    } else {
-      return plan_.interval;
-    }
-  } else {
-    End(Outcome::kSuccess);
+    case JobEnding::kFreeze:
+      phase_ = Phase::kFrozen;
+      return kListenStep;
   }
-  if (phase_ == Phase::kOver) return std::nullopt;
-  return kAcknowledgeStep;
+  return Listen();
+}
+
+// The next piece of the wait for the next file.
+std::uint32_t TransferJob::Listen() {
+  const std::uint32_t step = std::min(until_next_file_, kListenStep);
+  until_next_file_ -= step;
+  return step;
+}
+
+// Milliseconds from one file to the next with the share of the line that the user gives.
+std::uint32_t TransferJob::FilePeriod() const {
+  const auto setting = [&](std::string_view key) {
+    return ports_.profile_files.ReadText(places_.UserNameIni(), shared::sections::kRegistry, key);
+  };
+  const bool gives_way = setting(shared::keys::kBackupIdle) == "1";
+  const std::string text =
+      setting(gives_way ? shared::keys::kBandwidthIdleState : shared::keys::kBandwidth);
+  const int share = std::clamp(text.empty() ? 100 : std::atoi(text.c_str()), 1, 100);
+  return plan_.interval * 100 / static_cast<std::uint32_t>(share);
 }
 
 void TransferJob::WriteProgress() {
@@ -178,6 +213,12 @@ void TransferJob::WriteProgress() {
   SetProgress(status::kEstimatedTime, ClockText(left));
   SetProgress(status::kTransferRate,
               std::to_string(kFileBytes / (plan_.interval + 1)) + " KB/second");
+}
+
+std::optional<std::uint32_t> TransferJob::EndWith(Outcome outcome) {
+  End(outcome);
+  if (phase_ == Phase::kOver) return std::nullopt;
+  return kAcknowledgeStep;
 }
 
 // The order matters to the agent: when it sees the job ended, everything that it then reads is

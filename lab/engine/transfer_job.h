@@ -32,12 +32,16 @@ class TransferJob {
   bool crashed() const { return phase_ == Phase::kCrashed; }
 
  private:
-  enum class Phase { kStart, kTransfer, kAcknowledge, kOver, kCrashed };
+  enum class Phase { kStart, kTransfer, kAcknowledge, kFrozen, kOver, kCrashed };
   enum class Outcome { kSuccess, kFailure, kQuotaExceeded, kCancelled };
   struct OutcomeText;
 
   std::optional<std::uint32_t> Start();
   std::optional<std::uint32_t> Transfer();
+  std::optional<std::uint32_t> SecondHalf();
+  std::uint32_t Listen();
+  std::uint32_t FilePeriod() const;
+  std::optional<std::uint32_t> EndWith(Outcome outcome);
   std::optional<std::uint32_t> AwaitAcknowledgement();
   void End(Outcome outcome);
 
@@ -71,6 +75,7 @@ class TransferJob {
   platform::LocalTime started_;
   std::uint64_t started_at_ = 0;
   int files_done_ = 0;
+  std::uint32_t until_next_file_ = 0;  // milliseconds
   int waits_left_ = 0;
 };
 

@@ -88,12 +88,40 @@ TEST(TransferJob, StandsStillWhilePausedIsOne) {
   EXPECT_EQ("2", lab.Progress(status::kFileCount));
 }
 
-TEST(TransferJob, HonoursCancelWithinOneFile) {
+TEST(TransferJob, TakesLongerWithASmallerShareOfTheLine) {
+  LabMachine lab;
+  lab.machine.files().PutIni(lab.places.UserNameIni(), "Registry", "Bandwidth", "50");
+  lab.StartEngine();
+  lab.machine.Run(8000);
+  EXPECT_EQ("2", lab.Progress(status::kFileCount));
+}
+
+TEST(TransferJob, TellsOfItsHiddenWindowWhileItRuns) {
+  LabMachine lab;
+  lab.StartEngine();
+  EXPECT_EQ("0", lab.Progress(status::kProgWndStatus, status::kProgWndSection));
+  EXPECT_EQ("131330", lab.Progress(status::kProgWndValue, status::kProgWndSection));
+  lab.machine.Run(kWholeJob);
+  EXPECT_EQ("0", lab.Progress(status::kProgWndValue, status::kProgWndSection));
+}
+
+TEST(TransferJob, AFrozenEngineHearsNothing) {
+  LabMachine lab;
+  lab.Script("Job", "Ending", "freeze");
+  lab.StartEngine();
+  lab.machine.Run(kWholeJob);
+  lab.SetStatus(status::kCancel, "1");
+  lab.machine.Run(kWholeJob);
+  EXPECT_TRUE(lab.EngineRuns());
+  EXPECT_EQ("1", lab.Status(status::kCancel));
+}
+
+TEST(TransferJob, HonoursCancelWithinHalfASecond) {
   LabMachine lab;
   lab.StartEngine();
   lab.machine.Run(3000);
   lab.SetStatus(status::kCancel, "1");
-  lab.machine.Run(2000);
+  lab.machine.Run(500);
   EXPECT_EQ("0", lab.Status(status::kCancel));
   EXPECT_EQ("5", lab.Status(status::kStatus));
   EXPECT_EQ("0", lab.Progress(status::kBackupInProgress));
