@@ -131,7 +131,8 @@ class Desk:
     def click(self, place, button=1, times=1):
         self.move(place)
         time.sleep(0.3)  # as a hand does; a menu takes no click before it has seen the mouse
-        self._xdotool("click", "--repeat", times, "--delay", 60, button)
+        for _ in range(times):
+            self._xdotool("mousedown", button, "sleep", 0.06, "mouseup", button, "sleep", 0.06)
 
     def key(self, name):
         self._xdotool("key", name)

@@ -66,17 +66,33 @@ class Demo:
         time.sleep(1.5)  # a window that fades in
         return self.desk.window(class_name) or window
 
-    def wait_until_closed(self, class_name):
-        wait_for(f"the window {class_name} closes", lambda: not self.desk.window(class_name))
+    def wait_until_closed(self, class_name, seconds=60):
+        wait_for(f"the window {class_name} closes", lambda: not self.desk.window(class_name),
+                 seconds)
 
-    def press(self, class_name, caption):
+    def close_with(self, caption, class_name):
+        """Presses a button that closes its window, again when the window does not react."""
+        for word in ("presses", "presses once more", "presses a third time"):
+            self.timeline.tell("person", f'{word} "{caption}"')
+            self.desk.click(self.button(class_name, caption).place)
+            if self.closes(class_name):
+                return
+        raise TimeoutError(f"{class_name} does not close")
+
+    def button(self, class_name, caption):
         window = self.wait_for_window(class_name)
         for control in window.controls:
             if control.text == caption:
-                self.desk.click(control.place)
-                return
+                return control
         raise LookupError(f"{class_name} shows no control {caption!r}: "
                           + ", ".join(repr(c.text) for c in window.controls))
+
+    def closes(self, class_name):
+        try:
+            self.wait_until_closed(class_name, seconds=8)
+            return True
+        except TimeoutError:
+            return False
 
     # The story.
 
@@ -100,7 +116,9 @@ class Demo:
         self.leave_icon()
         self.wait_for_picture(DONE, seconds=90)
         time.sleep(1)
-        self.timeline.photograph("done", "the backup has ended well")
+        self.timeline.photograph("done", "the backup has ended well, and its window tells it")
+        self.close_with("Close", "frmStatus")
+        self.leave_icon()
 
     def clear(self):
         time.sleep(6)  # green stays
@@ -144,18 +162,14 @@ class Demo:
         self.choose("Web Management")
         self.wait_for_window("frmGeneralMessage")
         self.timeline.photograph("message", "the product's own message box")
-        self.timeline.tell("person", 'presses "Cancel"')
-        self.press("frmGeneralMessage", "Cancel")
-        self.wait_until_closed("frmGeneralMessage")
+        self.close_with("Cancel", "frmGeneralMessage")
 
     def alert(self):
         self.timeline.tell("web plug-in", "reports an error")
         self.desk.run(self.program("SorvanePlugin.exe"), "error", "-3")
         self.wait_for_window("frmWelcome")
         self.timeline.photograph("web-alert", "the web alert at the lower right")
-        self.timeline.tell("person", 'presses "Close"')
-        self.press("frmWelcome", "Close")
-        self.wait_until_closed("frmWelcome")
+        self.close_with("Close", "frmWelcome")
 
     def end(self):
         self.open_menu()
