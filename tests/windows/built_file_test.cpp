@@ -56,7 +56,10 @@ std::string Bytes(const std::string& path) {
 struct Headers {
   WORD machine = 0;
   WORD characteristics = 0;
+  WORD subsystem = 0;
   bool has_relocations = false;
+  bool has_symbols = false;
+  bool has_writable_code = false;
   std::vector<std::string> libraries;
 };
 
@@ -78,6 +81,13 @@ Headers ReadHeaders(const std::string& bytes, const NtHeaders& nt) {
   headers.machine = nt.FileHeader.Machine;
   headers.characteristics = nt.OptionalHeader.DllCharacteristics;
   headers.has_relocations = directories[IMAGE_DIRECTORY_ENTRY_BASERELOC].Size > 0;
+  headers.subsystem = nt.OptionalHeader.Subsystem;
+  headers.has_symbols = nt.FileHeader.NumberOfSymbols > 0;
+  for (int i = 0; i < nt.FileHeader.NumberOfSections; ++i) {
+    constexpr DWORD kWritableCode = IMAGE_SCN_MEM_WRITE | IMAGE_SCN_MEM_EXECUTE;
+    const bool both = (sections[i].Characteristics & kWritableCode) == kWritableCode;
+    headers.has_writable_code = headers.has_writable_code || both;
+  }
   const char* imports = at(directories[IMAGE_DIRECTORY_ENTRY_IMPORT].VirtualAddress);
   for (auto* entry = reinterpret_cast<const IMAGE_IMPORT_DESCRIPTOR*>(imports);
        entry && entry->Name != 0; ++entry) {
@@ -113,6 +123,16 @@ TEST_P(BuiltFileTest, HasARandomAddressAndDataThatCannotBeRun) {
   if (headers.machine == IMAGE_FILE_MACHINE_AMD64) {
     EXPECT_TRUE(headers.characteristics & IMAGE_DLLCHARACTERISTICS_HIGH_ENTROPY_VA);
   }
+}
+
+TEST_P(BuiltFileTest, HasNoSectionThatCanBeWrittenAndRun) {
+  EXPECT_FALSE(HeadersOf(path_).has_writable_code);
+}
+
+TEST_P(BuiltFileTest, IsStrippedAndOpensNoConsole) {
+  const Headers headers = HeadersOf(path_);
+  EXPECT_FALSE(headers.has_symbols);
+  EXPECT_EQ(headers.subsystem, IMAGE_SUBSYSTEM_WINDOWS_GUI);
 }
 
 TEST_P(BuiltFileTest, NeedsOnlyLibrariesOfTheSystem) {
