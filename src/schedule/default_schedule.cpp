@@ -96,7 +96,9 @@ bool ScheduleCreateFiles::IsNewUser() {
   shared::clsTransfer transfer(machine_, state_);
   std::string first_user = transfer.Trf_ReadUserProfile(keys::kFirstUser);
   if (first_user.empty()) first_user = transfer.Trf_ReadUserProfile(keys::kFirstUser);
-  return first_user.empty() || first_user == "TRUE";
+  if (!first_user.empty()) return first_user == "TRUE";
+  // A profile that another program holds tells nothing of its user.
+  return ReadIfThere(machine_.files, shared::ProfileIni(state_)).has_value();
 }
 
 bool ScheduleCreateFiles::WriteFileSelection() {

@@ -18,10 +18,11 @@ class ScheduleCreateFiles {
   ScheduleCreateFiles(platform::Platform& machine, shared::AgentState& state);
 
   // Reads the user afresh, and does all of it when `FirstUser` of the profile is "TRUE" or empty;
-  // anything else leaves every file as it is. The user's profile is made anew: of what it held only
-  // the proxy's name, port, user and password are kept, and `FirstUser` becomes "FALSE", so that a
-  // user passes once. A file that cannot be written ends the work, with those made so far left in
-  // place; the next call begins anew. Leaves the table of the state with the one new record.
+  // anything else, and a profile that cannot be read, leaves every file as it is. The user's
+  // profile is made anew: of what it held only the proxy's name, port, user and password are kept,
+  // and `FirstUser` becomes "FALSE", so that a user passes once. A file that cannot be written ends
+  // the work, with those made so far left in place; the next call begins anew. Leaves the table of
+  // the state with the one new record.
   void Form_Load();
 
   // Sets the start to a random hour of the coming night.

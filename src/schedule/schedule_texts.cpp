@@ -45,11 +45,13 @@ status::NextRun ScheduleTexts::GetScheduleDate() {
   if (!machine_.files.Exists(shared::InUserFolder(state_, shared::files::kScheduleData))) {
     return next;
   }
-  // 3.
-  if (!RecordStore(machine_, state_).ReadScheduleTable()) return next;
+  // 3. The table is one of its own: windows look at the next run while the wizard edits, maybe the
+  // job of another user, and what the wizard then saves is the table of the state.
+  shared::AgentState own = state_;
+  if (!RecordStore(machine_, own).ReadScheduleTable()) return next;
   std::string earliest(kLatestSortKey);
-  for (std::size_t at = 0; at < state_.ScheduleCount; ++at) {
-    shared::ScheduleRecord& record = state_.ScheduleTable[at];
+  for (std::size_t at = 0; at < own.ScheduleCount; ++at) {
+    shared::ScheduleRecord& record = own.ScheduleTable[at];
     if (record.SortKey >= earliest) continue;
     earliest = record.SortKey;
     const JobKind* const kind = FindJobKind(record.BackupSetName);

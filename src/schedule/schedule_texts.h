@@ -17,7 +17,7 @@ class ScheduleTexts final : public status::ScheduleTexts {
 
   // The record with the smallest SortKey among those of a known kind, and the name of its kind; the
   // sentence that schedules are disabled while they are; nothing without a schedule, or when it
-  // cannot be read. Loads the table.
+  // cannot be read. The table of the state stays as it is.
   status::NextRun GetScheduleDate() override;
 
   // See time_difference.h.

@@ -71,6 +71,19 @@ TEST_F(DefaultSchedule, AUserWhoHasPassedKeepsEveryFileAsItIs) {
   EXPECT_EQ(machine.files().Dump(), before);
 }
 
+TEST_F(DefaultSchedule, AProfileThatAnotherProgramHoldsMakesNoNewUser) {
+  SetProfile("FirstUser", "FALSE");
+  PutSchedule({"2", Line("1", "mine", "1")});
+  machine.LockFile(kProfile);
+  const std::string before = machine.files().Dump();
+  Load();
+  EXPECT_EQ(machine.files().Dump(), before);
+  machine.UnlockFile(kProfile);
+  SetProfile("FirstUser", "");
+  Load();
+  EXPECT_EQ(OnlyRecord().BackupSetName, "tventbkupjob");
+}
+
 TEST_F(DefaultSchedule, OnlyTrueAndEmptyMakeANewUser) {
   for (const std::string value : {"true", "1", "False"}) {
     SetProfile("FirstUser", value);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "schedule/record_store.h"
 #include "tests/schedule/schedule_machine.h"
 
 namespace schedule {
@@ -28,6 +29,20 @@ TEST_F(ScheduleTextsTest, TheRecordWithTheSmallestKeyRunsNext) {
   EXPECT_EQ(Next().line, sql);
   EXPECT_EQ(Next().job_name, "SQL Server");
   EXPECT_EQ(status::StartTimeField(Next().line), "03-02-2024 10:00:00");
+}
+
+TEST_F(ScheduleTextsTest, TheTableOfAnotherUserWhoseJobIsEditedStays) {
+  machine.files().Put("C:\\Sorvane\\SorvaneEbob\\scheduleData.txt",
+                      Lines({"2", Line("7", "EXCHANGEBACKUP", "202403052000")}));
+  PutSchedule({"0", Line("1", "tventbkupjob", "1"), Line("2", "SQLSERVERBACKUP", "2")});
+  RecordStore store(ports(), state);
+  state.CurrentUser = "bob";
+  store.ReadScheduleTable();
+  state.CurrentUser = "ann";
+  EXPECT_EQ(Next().line, Line("1", "tventbkupjob", "1"));
+  EXPECT_TRUE(store.DB_WriteAllRecord("C:\\Sorvane\\SorvaneEbob\\scheduleData.txt", kSaveOfWizard));
+  EXPECT_EQ(machine.files().Content("C:\\Sorvane\\SorvaneEbob\\scheduleData.txt"),
+            Lines({"2", Line("7", "EXCHANGEBACKUP", "202403052000")}));
 }
 
 TEST_F(ScheduleTextsTest, EachKindHasItsNameAndTheDefaultSetNone) {
