@@ -31,13 +31,16 @@ constexpr std::array kTemporaryFolders = {
     platform::KnownFolder::kTemporary, platform::KnownFolder::kInternetCache,
     platform::KnownFolder::kCookies, platform::KnownFolder::kCommonFavourites};
 
-// Adds the entries of those names that the list at `path` lacks, in force or not.
+// Adds the entries of those names that the list at `path` lacks, in force or not. A list that is
+// there is asked for the last name first.
 bool AddNames(platform::Files& disk, const std::string& path,
               std::span<const std::string_view> names) {
   const auto text = ReadIfThere(disk, path);
   if (!text) return false;
   std::vector<std::string> lines = LinesOf(*text);
-  for (const std::string_view name : names) {
+  std::vector<std::string_view> order(names.begin(), names.end());
+  if (disk.Exists(path)) std::ranges::rotate(order, order.end() - 1);
+  for (const std::string_view name : order) {
     const std::string entry = std::string(name).append(kInForce);
     const bool listed = std::ranges::any_of(
         lines, [&](const std::string& line) { return line == entry || line == name; });

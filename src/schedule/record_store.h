@@ -27,8 +27,8 @@ class RecordStore {
   // Loads scheduleData.txt of UserFolder into ScheduleTable and sets ScheduleFilePath and
   // ScheduleCount. Returns the index of the first record with the smallest SortKey, and 0 when none
   // is smaller than kLatestSortKey. With a record number only that record is loaded, to index 0,
-  // and ScheduleCount stays. A missing file gives an empty table. Nothing, and an empty table, when
-  // the file is there and cannot be read.
+  // and ScheduleCount stays (while that is 0 the table stays empty). A missing file gives an empty
+  // table. Nothing, and an empty table, when the file is there and cannot be read.
   std::optional<std::size_t> ReadScheduleTable(std::string_view record_no = {});
 
   // Writes the table, see record_writer.h.

@@ -73,6 +73,18 @@ TEST_F(ExclusionLists, AListThatCannotBeDeletedKeepsItsEntriesAndGetsThoseThatIt
             "hiberfil.sys/1\r\n");
 }
 
+TEST_F(ExclusionLists, AListThatIsThereIsAskedForTheLastNameFirst) {
+  machine.files().Put(Path("atbkupExcludeFile.txt"), "mine/1\r\n");
+  machine.files().Put(Path("atbkupExcludeFolder.txt"), "RECYCLER/1\r\n");
+  machine.gate().FailAll("files.Remove");
+  EXPECT_TRUE(Create());
+  EXPECT_EQ(Content("atbkupExcludeFile.txt"),
+            "mine/1\r\n~outlook.pst.tmp/1\r\npagefile.sys/1\r\nntuser.dat/1\r\n"
+            "hiberfil.sys/1\r\n");
+  EXPECT_EQ(Content("atbkupExcludeFolder.txt"),
+            "RECYCLER/1\r\n$Recycle.Bin/1\r\nSystem Volume Information/1\r\n");
+}
+
 TEST_F(ExclusionLists, AListThatCannotBeWrittenEndsTheWork) {
   machine.files().Put(Path("atbkupExcludeFile.txt"), "mine/1\r\n");
   machine.LockFile(Path("atbkupExcludeFile.txt"));

@@ -36,6 +36,14 @@ TEST(ToolTips, TheButtonsOfTheStatusWindowsHaveTipsToo) {
   }
 }
 
+TEST(ToolTips, TheOtherClosingControlsHaveTipsToo) {
+  EXPECT_EQ(GetToolTipText("SchedulerFrm.cmdCancel"), "Exit this screen");
+  EXPECT_EQ(GetToolTipText("frmStatus.imgViewLog"), "View the log");
+  EXPECT_EQ(GetToolTipText("frmStatus.imgClose"), "Close");
+  EXPECT_EQ(GetToolTipText("frmStatus.Image2"), "Close");
+  EXPECT_EQ(GetToolTipText("frmStatusPrompt.imgFormClose"), "Close");
+}
+
 TEST(ToolTips, AnUnknownControlHasNone) {
   EXPECT_EQ(GetToolTipText(""), "");
   EXPECT_EQ(GetToolTipText("frmStatus"), "");

@@ -20,6 +20,7 @@ using testing::Lines;
 using testing::ScheduleMachine;
 
 constexpr std::string_view kSets = "C:\\Sorvane\\SorvaneEann\\sets.txt";
+constexpr std::string_view kSelection = "C:\\Sorvane\\SorvaneE\\AutoFileSelection.txt";
 
 struct Writer {
   const char* name;
@@ -32,6 +33,7 @@ void SeedFiles(ScheduleMachine& world) {
                      Line("2", "SQLSERVERBACKUP", "202403032000")});
   world.machine.files().Put(kMailIds, "a@b.c\r\nd@e.f\r\n");
   world.machine.files().Put(kSets, "one;1\r\ntwo;2\r\n");
+  world.machine.files().Put(kSelection, "1;1;1\r\n");
   RecordStore(world.ports(), world.state).ReadScheduleTable();
 }
 
@@ -72,6 +74,8 @@ const std::vector<Writer>& Writers() {
        [](ScheduleMachine& world) {
          ScheduleCreateFiles(world.ports(), world.state).CreateDefaultSchedule();
        }},
+      {"first start", kSelection,
+       [](ScheduleMachine& world) { ScheduleCreateFiles(world.ports(), world.state).Form_Load(); }},
       {"addresses", kMailIds,
        [](ScheduleMachine& world) {
          const std::vector<std::string> more = {"g@h.i"};
