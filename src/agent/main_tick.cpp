@@ -1,5 +1,6 @@
 #include "agent/main_tick.h"
 
+#include <algorithm>
 #include <string>
 
 #include "agent/partner_edition.h"
@@ -72,10 +73,11 @@ void MainTick::TrayTick() {
   icon_.Show();
 }
 
-// An equal pair does not release.
+// An equal pair does not release. Unknown figures count as 0 here: they tell of no room.
 void MainTick::ReleaseQuota() {
   const shared::QuotaStatus quota = channel_.ReadQuotaStatus();
-  if (quota.max > quota.used && channel_.IsQuotaMarked()) channel_.UnmarkQuota();
+  const double used = std::max(quota.used, 0.0);
+  if (quota.max > used && channel_.IsQuotaMarked()) channel_.UnmarkQuota();
 }
 
 // The system is not told: its flag for this does not fit the 16 bits that it would be handed on in,

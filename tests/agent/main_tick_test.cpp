@@ -43,8 +43,9 @@ TEST_F(MainTickTest, ReleasesTheQuotaOnlyWhenMoreIsAllowedThanUsed) {
   };
   constexpr Row kRows[] = {
       {"100", "100", true}, {"100", "101", false}, {"101", "100", true}, {"100", "1", false},
-      {"", "", false},      {"", "5", false},      {"5", "", true},      {"0", "0", true},
-      {"x", "7", false},    {"7", "x", true},      {"-1", "0", false},   {"1e3", "1001", false},
+      {"", "", true},       {"", "5", false},      {"5", "", true},      {"0", "0", true},
+      {"x", "7", false},    {"7", "x", true},      {"-1", "0", true},    {"1e3", "1001", false},
+      {"", "0", true},      {"", "1", false},
   };
   Start();
   for (const Row& row : kRows) {
