@@ -46,9 +46,24 @@ const ServiceAction* ActionFor(ServiceState state) {
   return nullptr;
 }
 
-// A backup is in the engine's hands unless the two words differ.
-bool BackgroundIsDue(std::string_view standard, std::string_view started) {
-  return (standard == "1" && started == "0") || (standard == "0" && started == "1");
+// When the background process may start, and how the trace says so. In all other states a backup is
+// in the engine's hands.
+struct BackgroundTurn {
+  std::string_view standard;
+  std::string_view started;
+  std::string_view text;
+};
+
+constexpr BackgroundTurn kBackgroundTurns[] = {
+    {"1", "0", "  is launched"},
+    {"0", "1", " is launched"},
+};
+
+const BackgroundTurn* TurnFor(std::string_view standard, std::string_view started) {
+  for (const BackgroundTurn& turn : kBackgroundTurns) {
+    if (turn.standard == standard && turn.started == started) return &turn;
+  }
+  return nullptr;
 }
 
 }  // namespace
@@ -103,11 +118,12 @@ void Supervision::EnsureBackground() {
   trace.WriteInformation("strStdrd2 = " + standard);
   trace.WriteInformation("strStarted2 = " + started);
   // 5. Start it.
-  if (!BackgroundIsDue(standard, started)) return;
+  const BackgroundTurn* turn = TurnFor(standard, started);
+  if (turn == nullptr) return;
   profile.WriteUserNameProfile(shared::keys::kStandard, "1");
   machine_.shell.Open(shared::InInstallFolder(state_, background), "", state_.InstallFolder,
                       platform::WindowShow::kNormal);
-  trace.WriteInformation(background + "  is launched");
+  trace.WriteInformation(background + std::string(turn->text));
 }
 
 platform::StartResult Supervision::ShellRun(std::string_view folder, std::string_view file,

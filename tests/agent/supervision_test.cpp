@@ -151,13 +151,17 @@ TEST_F(SupervisionTest, SeesABackgroundProcessThatOnlyOneOfTheWalksSees) {
 struct TurnRow {
   const char* standard;
   const char* started;
-  bool launched;
+  const char* traced;  // null: it is not launched
 };
 
 TEST_F(SupervisionTest, LaunchesOnlyWhenTheEngineHasNoBackupInHand) {
-  constexpr TurnRow kRows[] = {{"1", "0", true},  {"0", "1", true}, {"1", "1", false},
-                               {"0", "0", false}, {"", "", false},  {"1", "", false},
-                               {"", "1", false}};
+  constexpr TurnRow kRows[] = {{"1", "0", "SorvaneEBackground.exe  is launched"},
+                               {"0", "1", "SorvaneEBackground.exe is launched"},
+                               {"1", "1", nullptr},
+                               {"0", "0", nullptr},
+                               {"", "", nullptr},
+                               {"1", "", nullptr},
+                               {"", "1", nullptr}};
   Start(kSeven);
   EndBackground();
   for (const TurnRow& row : kRows) {
@@ -167,9 +171,12 @@ TEST_F(SupervisionTest, LaunchesOnlyWhenTheEngineHasNoBackupInHand) {
     agent_.machine.journal().Clear();
     Make().EnsureBackground();
     EXPECT_EQ(agent_.machine.journal().Count("shell", "SorvaneEBackground.exe"),
-              row.launched ? 1u : 0u)
+              row.traced ? 1u : 0u)
         << row.standard << " " << row.started;
-    EXPECT_EQ(agent_.Shared(keys::kStandard), row.launched ? "1" : row.standard);
+    EXPECT_EQ(agent_.Shared(keys::kStandard), row.traced ? "1" : row.standard);
+    if (row.traced) {
+      EXPECT_THAT(Effects(agent_), Contains("trace " + std::string(row.traced)));
+    }
   }
 }
 
