@@ -45,6 +45,8 @@ class frmTVWinService : public forms::Form {
   forms::Timer WebMTimer{*this, "WebMTimer", 100, false};
   forms::Timer CDPTimer{*this, "CDPTimer", 100, false};
   forms::Timer chkHibernationTimeOut{*this, "chkHibernationTimeOut", 1000, false};
+  // Has no handler: the quota is looked at by the tick.
+  forms::Timer CheckQuotaOut{*this, "CheckQuotaOut", 60000, true};
 
  private:
   void Form_Load();

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <iterator>
 #include <string>
 
 #include "agent/frm_tv_win_service.h"
@@ -178,6 +179,26 @@ TEST_F(FormLoadTest, RunsBothTicksAtTheirPeriods) {
   EXPECT_EQ(agent_.machine.gate().Count("registry.Read"), 20u);
   EXPECT_EQ(agent_.machine.gate().Count("processes.CurrentLoginName"), 3u);
   EXPECT_TRUE(agent_.state().LoadingDone);
+}
+
+TEST_F(FormLoadTest, HasTheTimersOfItsDesign) {
+  struct Row {
+    std::string_view name;
+    std::uint32_t interval;
+    bool enabled;
+  };
+  constexpr Row kRows[] = {{"WebMTimer", 100, false},
+                           {"CDPTimer", 100, false},
+                           {"chkHibernationTimeOut", 1000, false},
+                           {"CheckQuotaOut", 60000, true}};
+  Start();
+  const auto& timers = agent_.agent().form().Timers();
+  ASSERT_EQ(timers.size(), std::size(kRows));
+  for (std::size_t i = 0; i < timers.size(); ++i) {
+    EXPECT_EQ(timers[i]->Name(), kRows[i].name);
+    EXPECT_EQ(timers[i]->Interval(), kRows[i].interval);
+    EXPECT_EQ(timers[i]->Enabled(), kRows[i].enabled);
+  }
 }
 
 TEST_F(FormLoadTest, ClosingTheHiddenWindowLeavesTheAgentAlive) {
