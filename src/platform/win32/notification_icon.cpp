@@ -15,6 +15,10 @@ static_assert(sizeof(void*) != 4 || kRecordSize == 88);
 constexpr std::size_t kTipSize = kRecordSize - offsetof(NOTIFYICONDATAA, szTip);
 static_assert(kTipSize == Shell::kMostTipCharacters + 1);
 
+HICON OwnIconOf(HWND window) {
+  return reinterpret_cast<HICON>(GetClassLongPtrA(window, GCLP_HICON));
+}
+
 }  // namespace
 
 bool NotificationIcon::Add(HWND window, std::uint32_t callback_message, HICON icon,
@@ -23,7 +27,7 @@ bool NotificationIcon::Add(HWND window, std::uint32_t callback_message, HICON ic
   record_.cbSize = kRecordSize;
   record_.hWnd = window;
   record_.uCallbackMessage = callback_message;
-  record_.hIcon = icon;
+  record_.hIcon = icon != nullptr ? icon : OwnIconOf(window);
   CopyTip(tip);
   return Tell(NIM_ADD, NIF_MESSAGE | NIF_ICON | NIF_TIP);
 }

@@ -13,7 +13,8 @@ namespace platform::win32 {
 
 class NotificationIcon {
  public:
-  // Each gives what the shell answers: false when it is not there or refuses.
+  // Each gives what the shell answers: false when it is not there or refuses. Without an icon Add
+  // takes the window's own: an empty place in the notification area could not be clicked on.
   bool Add(HWND window, std::uint32_t callback_message, HICON icon, std::string_view tip);
   bool SetIcon(HICON icon);
   bool SetTip(std::string_view tip);
