@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "agent/executable_names.h"
 #include "agent/main_tick.h"
@@ -87,18 +88,23 @@ void IconEvents::DoubleClick() {
   BringMainProgramForward();
 }
 
+bool IconEvents::BeginRightClick() {
+  return !std::exchange(menu_is_coming_, true);
+}
+
 void IconEvents::RightClick() {
   // 1. All items by their state.
   menu_.UpdateTrayMenu();
   // 2. and 3. The item of the quota.
   if (state_.ProductNumber == kPartnerEdition) {
     menu_.HideForPartner();
-  } else if (IsQuotaExceeded()) {
-    menu_.ShowQuotaItem();
+  } else {
+    menu_.MarkQuotaExceeded(IsQuotaExceeded());
   }
   // 4. The job's items.
   menu_.EnableJobItems();
   // 5. The popup.
+  menu_is_coming_ = false;
   SysTrayMouseEventHandler();
 }
 

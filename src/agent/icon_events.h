@@ -21,6 +21,11 @@ class IconEvents {
              shared::Messages& messages, TrayMenu& menu, forms::Form& form);
 
   void DoubleClick();
+
+  // Notes that a right click has arrived, before anything is read for it. False while the popup of
+  // an earlier one is still to come: reading pumps messages, and the clicks of an impatient user on
+  // an icon that did not answer are one wish, not a row of popups.
+  bool BeginRightClick();
   void RightClick();
 
   // The popup by the menu's present state: in front, with its default item.
@@ -40,6 +45,7 @@ class IconEvents {
   shared::Messages& messages_;
   TrayMenu& menu_;
   forms::Form& form_;
+  bool menu_is_coming_ = false;
 };
 
 }  // namespace agent

@@ -64,10 +64,10 @@ void TrayMenu::HideForPartner() {
   for (const std::string_view name : kPartnerHidden) Item(name).SetVisible(false);
 }
 
-void TrayMenu::ShowQuotaItem() {
-  Item("MnuQuotaExceeded").SetCaption(shared_texts_.quota_exceeded);
-  Item("MnuQuotaExceeded").SetVisible(true);
-  Item("BLLine").SetVisible(true);
+void TrayMenu::MarkQuotaExceeded(bool exceeded) {
+  if (exceeded) Item("MnuQuotaExceeded").SetCaption(shared_texts_.quota_exceeded);
+  Item("MnuQuotaExceeded").SetVisible(exceeded);
+  Item("BLLine").SetVisible(exceeded);
 }
 
 void TrayMenu::EnableJobItems() {

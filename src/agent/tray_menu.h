@@ -35,8 +35,8 @@ class TrayMenu {
   // Takes out what the partner edition does not have.
   void HideForPartner();
 
-  // Shows the item of an exceeded quota and its line.
-  void ShowQuotaItem();
+  // Shows the item of an exceeded quota and its line, or takes them out again.
+  void MarkQuotaExceeded(bool exceeded);
 
   // Brings every item to the state of the shared files.
   void UpdateTrayMenu();

@@ -36,6 +36,9 @@ TrayWindow::TrayWindow(platform::Platform& machine, shared::AgentState& state, T
 
 MessageAnswer TrayWindow::TrayWindowProc(std::uint32_t message, std::uintptr_t wparam,
                                          std::intptr_t lparam) {
+  const bool icon_event = message == kIconMessage;
+  const auto mouse_message = static_cast<std::uint32_t>(lparam & 0xFFFF);
+  if (icon_event && mouse_message == kRightButtonUp && !icon_events_.BeginRightClick()) return 0;
   // 1. The machine is about to sleep.
   if (IsSuspend(message, wparam)) {
     commands_.OnSuspend();
@@ -64,7 +67,7 @@ MessageAnswer TrayWindow::TrayWindowProc(std::uint32_t message, std::uintptr_t w
     }
   }
   // 7. to 9. The window's own procedure, which takes the icon's events for movements of the mouse.
-  if (message == kIconMessage) Form_MouseMove(static_cast<std::uint32_t>(lparam & 0xFFFF));
+  if (icon_event) Form_MouseMove(mouse_message);
   return std::nullopt;
 }
 

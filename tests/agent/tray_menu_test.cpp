@@ -297,6 +297,16 @@ TEST_F(TrayMenuTest, ShowsTheQuotaItemToALoggedInUserOnly) {
   EXPECT_TRUE(Item("BLLine").Visible());
 }
 
+TEST_F(TrayMenuTest, TakesTheQuotaItemOutOnceThereIsRoomAgain) {
+  Start();
+  agent_.PutUserFile(status::kQuotaExceededFile);
+  agent_.RightClick();
+  agent_.machine.files().Delete(agent_.UserPath(status::kQuotaExceededFile));
+  agent_.RightClick();
+  EXPECT_FALSE(Item("MnuQuotaExceeded").Visible());
+  EXPECT_FALSE(Item("BLLine").Visible());
+}
+
 TEST_F(TrayMenuTest, NeverShowsTheQuotaItemInThePartnerEdition) {
   agent_.MakePartner();
   agent_.SetShifted(keys::kAuthenticated, "1");

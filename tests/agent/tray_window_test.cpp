@@ -174,5 +174,15 @@ TEST_F(TrayWindowTest, AFloodOfMessagesDoesNotPileUp) {
   EXPECT_EQ(agent_.state().CurrentUser, "ann");
 }
 
+TEST_F(TrayWindowTest, RightClicksOfAnImpatientUserAreOneMenu) {
+  Start();
+  const auto window = agent_.agent().form().Window();
+  for (int i = 0; i < 5; ++i) agent_.machine.PostToAgent(window, kIconMessage, 0, kRightButtonUp);
+  agent_.machine.Run(1000);
+  EXPECT_EQ(agent_.host.MenusShown(), 1);
+  agent_.RightClick();
+  EXPECT_EQ(agent_.host.MenusShown(), 2);
+}
+
 }  // namespace
 }  // namespace agent
