@@ -34,9 +34,17 @@ void TrayIcon::Show() {
   }
   const platform::PictureId picture = Load(wanted_picture_);
   is_in_ = shell_.AddIcon(window_, kIconMessage, picture, wanted_tip_);
-  if (!is_in_) return;
+  if (!is_in_) return TakeOver();
   shown_picture_ = picture;
   shown_tip_ = wanted_tip_;
+}
+
+void TrayIcon::TakeOver() {
+  is_in_ = shell_.SetIconTip(wanted_tip_);
+  if (!is_in_) return;
+  shown_tip_ = wanted_tip_;
+  shown_picture_ = platform::kNoPicture;
+  ShowPicture();
 }
 
 platform::PictureId TrayIcon::Load(StatePicture picture) {

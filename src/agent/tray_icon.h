@@ -44,6 +44,9 @@ class TrayIcon {
 
  private:
   platform::PictureId Load(StatePicture picture);
+  // A busy shell answers too late, says that it failed, and puts the icon in all the same: what can
+  // be changed is in.
+  void TakeOver();
   void ShowPicture();
   void ShowTip();
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "agent/tray_icon.h"
 #include "shared/keys.h"
 #include "status/progress_keys.h"
 #include "tests/agent/installed_agent.h"
@@ -292,6 +293,21 @@ TEST_F(MainTickTest, AddsTheIconAtTheFirstTickThatFindsTheShell) {
   EXPECT_EQ(agent_.Picture(), "tvlogyellow.ico");
   Tick();
   EXPECT_EQ(agent_.machine.journal().Count("icon", "add"), 3u);
+}
+
+TEST_F(MainTickTest, TakesOverAnIconThatABusyShellPutInTooLate) {
+  Start();
+  // The shell has the icon of before, and says that it cannot add one.
+  TrayIcon icon(agent_.machine.platform().shell, agent_.state());
+  icon.SetTrayImage(StatePicture::kFinished);
+  icon.SetTrayIcon("late");
+  icon.Add(agent_.agent().form().Window());
+  EXPECT_EQ(agent_.Picture(), "tvloggreen.ico");
+  EXPECT_EQ(agent_.Tip(), "late");
+  icon.SetTrayIcon("later");
+  EXPECT_EQ(agent_.Tip(), "later");
+  icon.Remove();
+  EXPECT_EQ(agent_.Picture(), "");
 }
 
 TEST_F(MainTickTest, ShowsAPictureAgainThatTheShellRefused) {
