@@ -49,7 +49,7 @@ void frmTVWinService::Form_Load() {
   Hide();
   state_.LoadingDone = true;
   state_.RestartStatusWindow = false;
-  machine_.events.StartTimer(kTrayTickPeriod, [this] { tick_.TrayTick(); });
+  StartTrayTick();
   // 12. The service.
   InstallService();
   // 13. The key with two spellings.
@@ -57,13 +57,30 @@ void frmTVWinService::Form_Load() {
   // 14. The companions.
   KeepCompanionsAlive();
   // 15. The slow tick.
-  machine_.events.StartTimer(kHousekeepingPeriod, [this] { housekeeping_.HousekeepingTick(); });
+  keeps_house_ = true;
+  StartHousekeepingTick();
   // 16. Web management once more: its error may have come meanwhile.
   TellWebManagerError();
   // 17. The tip.
   if (!state_.CurrentUser.empty()) icon_.SetTrayIcon(commands_.BuildTrayTip());
   // 18.
   Hide();
+}
+
+void frmTVWinService::StartTrayTick() {
+  if (tray_timer_ != platform::kNoTimer) return;
+  tray_timer_ = machine_.events.StartTimer(kTrayTickPeriod, [this] {
+    StartHousekeepingTick();
+    tick_.TrayTick();
+  });
+}
+
+void frmTVWinService::StartHousekeepingTick() {
+  if (housekeeping_timer_ != platform::kNoTimer || !keeps_house_) return;
+  housekeeping_timer_ = machine_.events.StartTimer(kHousekeepingPeriod, [this] {
+    StartTrayTick();
+    housekeeping_.HousekeepingTick();
+  });
 }
 
 void frmTVWinService::PrepareForPartner() {

@@ -58,6 +58,9 @@ class frmTVWinService : public forms::Form {
   void InstallService();
   void MoveMisspeltKey();
   void KeepCompanionsAlive();
+  // Starts a tick whose timer the system has refused so far. Each tick looks after the other.
+  void StartTrayTick();
+  void StartHousekeepingTick();
 
   platform::Platform& machine_;
   shared::AgentState& state_;
@@ -68,6 +71,9 @@ class frmTVWinService : public forms::Form {
   TrayCommands commands_;
   IconEvents icon_events_;
   TrayWindow window_;
+  platform::TimerId tray_timer_ = platform::kNoTimer;
+  bool keeps_house_ = false;  // the load has come to the slow tick
+  platform::TimerId housekeeping_timer_ = platform::kNoTimer;
   MainTick tick_;
   Housekeeping housekeeping_;
 };
