@@ -60,6 +60,8 @@ ContinuousBackup::ContinuousBackup(platform::Platform& machine, shared::AgentSta
       channel_(machine, state) {}
 
 void ContinuousBackup::mnuCDP_Click() {
+  // One switch at a time: the end of the first would stop the timer of a second.
+  if (state_.ContinuousSwitchUnderWay) return;
   // 1. Only somebody who is logged in has files to back up.
   if (profile_.ReadUserNameIni(keys::kDefaultUserName).empty()) {
     messages_.ShowMessage({.text = kLoginFirst});
@@ -73,7 +75,8 @@ void ContinuousBackup::mnuCDP_Click() {
                              .first_caption = "Proceed",
                              .second_caption = "Cancel",
                              .picture = shared::MessagePicture::kQuestion,
-                             .title = kTitle});
+                             .title = kTitle,
+                             .file_size_note = true});
   // 3.
   if (!proceed) return;
   form_.SetMousePointer(forms::Pointer::kBusy);
@@ -101,8 +104,10 @@ void ContinuousBackup::Enable() {
   tray_.SetTrayIcon(shared_texts_.continuous_enabling);
   WriteChoice(kOn);
   form_.SetMousePointer(forms::Pointer::kBusy);
-  // 3.
-  if (!ContinuousLogin(machine_, state_, form_).ValidateContinuousLogin()) {
+  // 3. The engine is waited for: the user may log out meanwhile.
+  state_.LoggedOutMeanwhile = false;
+  const bool good = ContinuousLogin(machine_, state_, form_).ValidateContinuousLogin();
+  if (!good || state_.LoggedOutMeanwhile) {
     WriteChoice(kOff);
     return;
   }

@@ -35,6 +35,9 @@ ContinuousLogin::ContinuousLogin(platform::Platform& machine, shared::AgentState
 
 bool ContinuousLogin::ValidateContinuousLogin() {
   const shared::ActingUser before = check_.SaveActingUser();
+  // The engine acts for the user who switches, whoever it acted for last.
+  shared::ProfileStore(machine_, state_)
+      .WriteUserNameProfile(keys::kInteractive, state_.CurrentUser);
   const bool good = Ask();
   shared::ProfileStore(machine_, state_)
       .WriteUserNameProfile(keys::kInteractive, before.interactive);
@@ -117,7 +120,7 @@ double ContinuousLogin::AskAccount() {
   for (int round = 0; round < commands::kCheckAccount.attempts; ++round) {
     if (machine_.events.HasQuit()) break;
     result = engine_.RunEngineCommandAndWait(commands::kCheckAccount.argument).value_or(result);
-    if (result > 0 || result == results::kRandomUnknown) break;
+    if (result > 0 || result == results::kRandomUnknown || result == results::kGiveUp) break;
     if (result == results::kServerUnreachable && !fell_back) {
       FallBack();
       fell_back = true;

@@ -39,6 +39,7 @@ void FormMessages::Dismiss() {
 
 bool FormMessages::Show(forms::frmGeneralMessage& box, const shared::Message& message) {
   const std::string_view picture = PictureKey(message.picture);
+  if (message.file_size_note) box.ShowNote();
   if (message.title.empty()) {
     return box.ShowMessage(message.text, message.first_caption, message.second_caption,
                            message.show_first, message.show_second, picture, nullptr);

@@ -76,6 +76,16 @@ bool LiesInFolder(std::string_view path, std::string_view folder) {
          shared::EqualsIgnoreCase(path.substr(0, folder.size()), folder);
 }
 
+// Programs of the installation that are never the client of a user.
+bool IsCompanion(std::string_view path, const shared::AgentState& state) {
+  const std::string_view name = path.substr(state.InstallFolder.size() + 1);
+  const shared::ExecutableNames& names = state.executables;
+  for (const std::string* companion : {&names.tray, &names.background, &names.service}) {
+    if (shared::EqualsIgnoreCase(name, *companion)) return true;
+  }
+  return false;
+}
+
 }  // namespace
 
 void EndInteractiveClients(platform::Platform& machine, shared::AgentState& state,
@@ -96,7 +106,7 @@ void EndClientProcess(platform::Platform& machine, shared::AgentState& state,
   bool is_ours = false;
   machine.processes.WalkModulePaths(kMostProcesses, [&](const platform::ProcessEntry& process) {
     if (process.id != id) return true;
-    is_ours = LiesInFolder(process.name, state.InstallFolder);
+    is_ours = LiesInFolder(process.name, state.InstallFolder) && !IsCompanion(process.name, state);
     return false;
   });
   if (is_ours) machine.processes.Terminate(id, kQueryAndTerminate);

@@ -51,8 +51,8 @@ void mnuStop_Click(platform::Platform& machine, shared::AgentState& state, TrayM
   }
   // 4.
   shared::Trace(machine, state)
-      .WriteStamped("Stopped backup from mnuStop Tray status : " +
-                    channel.ReadBackupStatus(status::kStatus));
+      .WriteInformation("Stopped backup from mnuStop Tray status : " +
+                        channel.ReadBackupStatus(status::kStatus));
   // 5.
   tray.ResetStatusWindow();
 }

@@ -115,6 +115,7 @@ bool Session::ConfirmLogout() {
 
 // What all three ways do, in this order.
 void Session::EndUsersWork(ClientEndReason reason) {
+  state_.LoggedOutMeanwhile = true;
   // 4.
   shared::RegistryStore(machine_, state_).WriteConnectionStatus(0);
   // 5.

@@ -38,16 +38,17 @@ struct WebError {
   bool logs_out;
   std::int16_t login_required;
   bool in_tip;
+  bool offers_report;
   std::string_view text;
 };
 
 constexpr WebError kErrors[] = {
-    {kWebPasswordChanged, true, 1, true,
+    {kWebPasswordChanged, true, 1, true, false,
      "Web Manager is disabled as your password has been changed. Login with your new password to "
      "continue."},
-    {kWebAccountCancelled, true, 0, false,
+    {kWebAccountCancelled, true, 0, false, false,
      "Web Manager is disabled as your Sorvane account is canceled."},
-    {kWebError, false, 0, false, "Web Manager is disabled as an error has occured"},
+    {kWebError, false, 0, false, true, "Web Manager is disabled as an error has occured"},
 };
 
 const WebError* FindError(std::int16_t value) {
@@ -102,21 +103,25 @@ void WebManagement::WebPlugin_Click() {
 }
 
 void WebManagement::SwitchOn() {
+  state_.WebSwitchUnderWay = true;
   Tell("Enabling WebPlugin");
   ClearError();
   form_.SetMousePointer(forms::Pointer::kBusy);
   WriteSwitch(kOn);
   StartTimer();
   menu_.Item(kItem).SetChecked(true);
+  state_.WebSwitchUnderWay = false;
 }
 
 void WebManagement::SwitchOff() {
+  state_.WebSwitchUnderWay = true;
   Tell("Disabling WebPlugin");
   WriteSwitch(kOff);
   ClearError();
   form_.SetMousePointer(forms::Pointer::kBusy);
   StartTimer();
   Uncheck();
+  state_.WebSwitchUnderWay = false;
 }
 
 void WebManagement::StartTimer() {
@@ -125,13 +130,15 @@ void WebManagement::StartTimer() {
 }
 
 void WebManagement::WebMTimer() {
+  // The yield of the switch can last longer than the timer: the item shows its new state only then.
+  if (state_.WebSwitchUnderWay) return;
+  timer_.SetEnabled(false);
   // 1. Who it is for.
   shared::ProfileStore profile(machine_, state_);
   profile.RefreshCurrentUser();
   std::string password = transfer_.Trf_ReadUserProfile(keys::kPassword);
   if (password.empty()) password = profile.ReadProfileKeyDecrypted(keys::kPlainPassword);
   form_.SetMousePointer(forms::Pointer::kDefault);
-  timer_.SetEnabled(false);
   if (menu_.Item(kItem).Checked()) {
     // 2. On.
     if (state_.CurrentUser.empty() || password.empty()) {
@@ -163,6 +170,7 @@ std::int16_t WebManagement::WaitWebManagerAuth() {
 }
 
 void WebManagement::HandleWebManagerError(std::int16_t error) {
+  state_.WebErrorTold = error;
   // 1. Off at once.
   Uncheck();
   WriteSwitch(kOff);
@@ -188,6 +196,7 @@ void WebManagement::Alert(std::int16_t error) {
   alert_.LoginRequired = row->login_required;
   if (row->logs_out) shared::RegistryStore(machine_, state_).WriteConnectionStatus(0);
   alert_.lblInstall.SetText(row->text);
+  alert_.OfferErrorReport(row->offers_report);
   if (row->in_tip) tray_.SetTrayIcon(state_.ProductName + " - " + std::string(row->text));
   // A repeat stays silent.
   if (state_.WebRetryCount == 1) return;
@@ -196,7 +205,11 @@ void WebManagement::Alert(std::int16_t error) {
 }
 
 void WebManagement::CheckForError() {
-  if (const auto error = menu_.WebManagementError()) HandleWebManagerError(*error);
+  const std::int16_t error = menu_.WebManagementError().value_or(0);
+  // The plug-in's word stays where it is: dealt with again, it would log out whoever logs in.
+  if (error == state_.WebErrorTold) return;
+  state_.WebErrorTold = error;
+  if (error != 0) HandleWebManagerError(error);
 }
 
 bool WebManagement::HasUser() {

@@ -46,7 +46,7 @@ class WebManagement {
   // again.
   void HandleWebManagerError(std::int16_t error);
 
-  // HandleWebManagerError when `ErrVal` holds one of the three errors.
+  // HandleWebManagerError when `ErrVal` holds one of the three errors, once until it changes.
   void CheckForError();
 
  private:

@@ -60,8 +60,14 @@ void frmWelcome::FadeIn() {
   if (Alpha() == kFullAlpha) Timer1.SetEnabled(false);
 }
 
+void frmWelcome::OfferErrorReport(bool offered) {
+  lblErrorReportLink.SetVisible(offered);
+  lblSupport.SetVisible(offered);
+}
+
 void frmWelcome::Close() {
-  if (LoginRequired == 1) commands_.open_options();
+  // Once: starting a program may let a second click in.
+  if (std::exchange(LoginRequired, std::int16_t{0}) == 1) commands_.open_options();
   commands_.write_trace("  [INFORMATION]  WebpluginAlert Screen is Closed");
   Unload();
 }

@@ -28,6 +28,9 @@ class frmWelcome : public Form {
   Label lblErrorReportLink{*this, "lblErrorReportLink", "send error report.", LabelStyle::kLink};
   Label lblSupport{*this, "lblSupport", "For further assistance, .", LabelStyle::kMuted};
 
+  // Whether the error report is offered below the reason.
+  void OfferErrorReport(bool offered);
+
   // 1: the user must log in again, Close leads there first; 0: Close only closes.
   std::int16_t LoginRequired = 0;
 

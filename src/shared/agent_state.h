@@ -108,6 +108,8 @@ struct AgentState {
   bool CdpRunning = false;
   bool CdpIdle = false;
   bool KeepAwakeOn = false;
+  bool LoggedOutMeanwhile = false;  // a logout ran; a long handler that clears it can tell
+  bool WebSwitchUnderWay = false;   // the switch's timer waits until the item shows its new state
   bool ContinuousSwitchUnderWay = false;  // a long handler pumps: its timer's ticks wait
   bool ForceStatusRefresh = false;
   double last_return_value = 0;  // the engine's result as ReadJobStatus saw it last
@@ -124,6 +126,7 @@ struct AgentState {
 
   // The web-management switch and the quota check.
   std::int16_t WebRetryCount = 0;  // 1: the alert was shown since the switch was used
+  std::int16_t WebErrorTold = 0;   // the plug-in's error that was dealt with last; 0 none
   std::int16_t WebState = 0;       // 0: the plug-in has been ended
   std::int16_t QuotaCheck = 0;
 

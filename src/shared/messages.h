@@ -16,6 +16,7 @@ struct Message {
   bool show_second = true;
   MessagePicture picture = MessagePicture::kInfo;
   std::string_view title = {};  // caption of the window; empty for the product's own
+  bool file_size_note = false;  // with the note on the size of files in continuous backup
 };
 
 class Messages {

@@ -304,6 +304,71 @@ TEST_F(ContinuousBackupTest, TicksAndEveryMenuItemRunThroughTheWait) {
   EXPECT_GE(agent_.host.MenusShown(), popups);
 }
 
+TEST_F(ContinuousBackupTest, TheQuestionCarriesTheNoteOnFileSizes) {
+  Start();
+  bool noted = false;
+  agent_.host.Answer([&](forms::Form& box) {
+    noted = box.Find("lblnote")->Visible() && box.Find("lblcdp")->Visible();
+    box.Unload();
+  });
+  agent_.agent().form().commands().MnuCdpClick();
+  EXPECT_TRUE(noted);
+}
+
+TEST_F(ContinuousBackupTest, ALogoutDuringTheLoginTakesTheChoiceBack) {
+  when_answered_ = [this] {
+    when_answered_ = nullptr;
+    agent_.machine.AtAgent(agent_.machine.now(),
+                           [this] { agent_.agent().form().commands().ExplorerLogout(); });
+  };
+  Start();
+  SwitchOn();
+  EXPECT_EQ(orders_, std::vector<std::int32_t>{0});
+  EXPECT_EQ(agent_.Shared(keys::kRealTimeBackup), "0");
+  EXPECT_EQ(agent_.ConnectionStatus(), 0u);
+}
+
+TEST_F(ContinuousBackupTest, TheEngineActsForTheUserWhoSwitches) {
+  agent_.SetShared(keys::kInteractive, "");
+  std::string acted_for;
+  when_answered_ = [&] { acted_for = agent_.Shared(keys::kInteractive); };
+  Start();
+  SwitchOn();
+  EXPECT_EQ(acted_for, "ann");
+  EXPECT_EQ(agent_.Shared(keys::kInteractive), "");
+  EXPECT_EQ(orders_, std::vector<std::int32_t>{1});
+}
+
+TEST_F(ContinuousBackupTest, WithoutAClientTheAgentStaysAliveInTheWait) {
+  agent_.machine.files().Delete(agent_.Path("SorvaneEClsClient.exe"));
+  ASSERT_TRUE(agent_.Start());
+  bool ticked = false;
+  bool answered = false;
+  agent_.machine.AtAgent(agent_.machine.now() + 30000,
+                         [&] { agent_.SetShared(keys::kRtBackup, "4"); });
+  agent_.machine.AtAgent(agent_.machine.now() + 40000, [&] {
+    ticked = agent_.Picture() == "tvlogred.ico";
+    agent_.host.ChooseFromMenu("mnuStatus");
+    agent_.RightClick();
+    answered = agent_.host.Find("frmStatus") != nullptr;
+    agent_.agent().form().commands().MnuExitClick();
+  });
+  Click("Continue");
+  agent_.machine.Run(60000);
+  EXPECT_TRUE(ticked);
+  EXPECT_TRUE(answered);
+  EXPECT_TRUE(agent_.machine.exited());
+}
+
+TEST_F(ContinuousBackupTest, ASecondClickDuringTheSwitchAsksNothing) {
+  agent_.SetShared(keys::kRtBackup, "0");
+  Start();
+  agent_.machine.AtAgent(agent_.machine.now() + 1000,
+                         [this] { agent_.agent().form().commands().MnuCdpClick(); });
+  SwitchOff();
+  EXPECT_THAT(Effects(agent_), Not(Contains(HasSubstr("ask "))));
+}
+
 TEST_F(ContinuousBackupTest, TheProgramCanEndDuringTheWait) {
   agent_.SetShared(keys::kRtBackup, "1");
   Start();

@@ -83,6 +83,17 @@ TEST_F(JobStopTest, WithoutAScheduleOnlyTheTraceIsWritten) {
   EXPECT_THAT(Effects(agent_), ElementsAre("trace Stopped backup from mnuStop Tray status : "));
 }
 
+TEST_F(JobStopTest, TwoStopsInARowCostNothingMore) {
+  Schedule("1");
+  Start();
+  Stop();
+  Schedule("0");
+  agent_.machine.journal().Clear();
+  Stop();
+  EXPECT_THAT(Effects(agent_), ElementsAre("trace Stopped backup from mnuStop Tray status : 5"));
+  EXPECT_FALSE(Item().Visible());
+}
+
 TEST_F(JobStopTest, AnInteractiveJobIsNotAskedToCancel) {
   Schedule("1");
   SetJob("1");

@@ -211,6 +211,34 @@ TEST_F(SessionTest, AProcessIdThatNowBelongsToAnotherProgramIsLeftAlone) {
   EXPECT_EQ(agent_.Status(status::kStatus), "0");
 }
 
+TEST_F(SessionTest, AStaleIdThatNowIsTheAgentsOrTheSchedulersEndsNeither) {
+  StartTransfer();
+  const auto scheduler = agent_.machine.processes().RunningId("SorvaneEBackground.exe");
+  agent_.SetShifted(keys::kClientPid, std::to_string(scheduler));
+  agent_.SetShifted(keys::kClientPidRestore, std::to_string(agent_.machine.processes().own_id()));
+  Start();
+  agent_.agent().form().commands().ExplorerLogout();
+  EXPECT_TRUE(Runs(scheduler));
+  EXPECT_TRUE(Runs(agent_.machine.processes().own_id()));
+}
+
+TEST_F(SessionTest, ALogoutTakesTheQuotasItemAway) {
+  agent_.PutUserFile(files::kQuotaExceeded);
+  Start();
+  agent_.RightClick();
+  EXPECT_TRUE(agent_.Item("MnuQuotaExceeded").Visible());
+  agent_.agent().form().commands().Relogin();
+  EXPECT_FALSE(agent_.Item("MnuQuotaExceeded").Visible());
+  EXPECT_FALSE(agent_.Item("BLLine").Visible());
+}
+
+TEST_F(SessionTest, TheTraceOfALogoutKeepsItsThreeBlanks) {
+  Start();
+  LogOutByMenu();
+  EXPECT_EQ(agent_.Traced("   [INFORMATION] Logged out and set Connection Paramter to 0"), 1u);
+  EXPECT_GE(agent_.Traced("   [INFORMATION] IntBackup = "), 1u);
+}
+
 TEST_F(SessionTest, TheMenuShowsTheLoginWordsAfterALogout) {
   Start();
   agent_.RightClick();

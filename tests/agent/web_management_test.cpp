@@ -82,6 +82,45 @@ TEST_F(WebManagementTest, SwitchesOffAndEndsThePlugin) {
   EXPECT_FALSE(Item().Checked());
 }
 
+TEST_F(WebManagementTest, ALongTickInsideTheYieldDoesNotTurnTheSwitchBack) {
+  agent_.SetShifted(keys::kPassword, "secret");
+  Start();
+  agent_.host.Answer([this](forms::Form& box) {
+    agent_.machine.AtAgent(agent_.machine.now(),
+                           [this] { agent_.machine.platform().clock.Sleep(3000); });
+    box.PressKey(box.Find("TextCont"), forms::Key::kEnter);
+  });
+  agent_.agent().form().commands().WebPluginClick();
+  agent_.machine.Run(200);
+  EXPECT_TRUE(Item().Checked());
+  EXPECT_EQ(Profile(sections::kWeb, keys::kWebPlugin), "1");
+  EXPECT_FALSE(agent_.agent().form().WebMTimer.Enabled());
+}
+
+TEST_F(WebManagementTest, AnErrorThatStaysDoesNotLogOutWhoLogsInAgain) {
+  ASSERT_TRUE(agent_.Start());
+  SetError("-1");
+  agent_.machine.Run(21000);
+  EXPECT_EQ(agent_.ConnectionStatus(), 0u);
+  agent_.LogIn();
+  agent_.machine.Run(60000);
+  EXPECT_EQ(agent_.ConnectionStatus(), 1u);
+  SetError("-2");
+  agent_.machine.Run(21000);
+  EXPECT_EQ(agent_.ConnectionStatus(), 0u);
+}
+
+TEST_F(WebManagementTest, OnlyAPlainErrorOffersTheReport) {
+  Start();
+  const auto offers = [this] {
+    return agent_.host.Find(kAlert)->Find("lblErrorReportLink")->Visible();
+  };
+  Commands().HandleWebManagerError(kWebError);
+  EXPECT_TRUE(offers());
+  Commands().HandleWebManagerError(kWebAccountCancelled);
+  EXPECT_FALSE(offers());
+}
+
 TEST_F(WebManagementTest, CancelLeavesTheSwitch) {
   Start();
   Click("IDCancel");
