@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
 #include "agent/tray_icon.h"
+
 #include "shared/keys.h"
 #include "status/progress_keys.h"
 #include "tests/agent/installed_agent.h"
@@ -267,6 +270,31 @@ TEST_F(MainTickTest, CreatesTheQuotaFileOnceForTheCodeSix) {
   agent_.machine.journal().Clear();
   Tick(4);
   EXPECT_EQ(agent_.machine.journal().Excerpt("file").size(), 1u);
+}
+
+TEST_F(MainTickTest, AsksTheMachineOnlyWhatItsStepsNeed) {
+  Start();
+  Tick();
+  agent_.machine.gate().Start(true);
+  Tick();
+  std::vector<std::string> asked;
+  for (const auto& call : agent_.machine.gate().calls()) {
+    if (call.name != "events.Pump") {
+      asked.push_back(call.argument.substr(call.argument.find_last_of('\\') + 1));
+    }
+  }
+  EXPECT_EQ(asked,
+            (std::vector<std::string>{
+                "SorvaneE.ini [QuotaStatus] Used", "SorvaneE.ini [QuotaStatus] Max",
+                "UserName.ini [Registry] StandbyBackup", "UserName.ini [Tolvex] Started",
+                "UserName.ini [Registry] Default User name",
+                "BackupProgress.ini [BackupProgressInfo] BackupInProgress",
+                "BackupProgress.ini [RestoreProgressInfo] RestoreInProgress",
+                "SorvaneE.ini [BackupStatus] Paused", "UserName.ini [Registry] Default User name",
+                "scheduleInfo.txt", "Config.txt", "SorvaneE.ini [BackupStatus] RetValue",
+                "SorvaneE.ini [BackupStatus] StatusWindow", "SorvaneE.ini [BackupStatus] DLLStatus",
+                "SorvaneE.ini [BackupStatus] DLLStatus", "UserName.ini [Tolvex] RTBackup",
+                "Connection Parameters", "QuotaExceeded.txt"}));
 }
 
 TEST_F(MainTickTest, CallsTheShellOnlyForAChange) {
