@@ -107,13 +107,19 @@ class Demo:
         self.leave_icon()
 
     def back_up(self):
+        with open(f"{self.installation}/LabEngine.ini", "w", encoding="ascii") as script:
+            script.write("[Job]\r\nFiles=14\r\n")
         self.timeline.tell("person", "plans a daily backup, due at once")
         self.desk.run(self.program("SorvaneEClassic.exe"), "schedule")
         self.wait_for_picture(RUNNING)
         self.timeline.photograph("running", "the backup runs, the icon blinks")
         self.rest_on_icon("Backed up files: 2")
         self.timeline.photograph("progress", "the tip counts the files")
+        self.open_menu()
+        self.choose("Status")
+        self.wait_for_window("frmStatus")
         self.leave_icon()
+        self.timeline.photograph("status", "the status window shows the transfer")
         self.wait_for_picture(DONE, seconds=90)
         time.sleep(1)
         self.timeline.photograph("done", "the backup has ended well, and its window tells it")
