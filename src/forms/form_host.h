@@ -55,6 +55,9 @@ class FormHost {
   // The screen without the task bar.
   virtual Rect GetDesktopRectt() = 0;
 
+  // Dots per inch of the screen, 96 for one that shows units as pixels.
+  virtual int ScreenDpi() = 0;
+
   // Handles as numbers; platform::kNoWindow while there is no window.
   virtual platform::WindowId Window(const Form& form) = 0;
   virtual platform::WindowId Window(const Control& control) = 0;

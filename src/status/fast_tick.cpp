@@ -7,7 +7,7 @@ namespace status {
 namespace {
 
 void LeaveTransferView(StatusView& view, IdleView& idle, const StatusContext& context) {
-  view.transfer_shown = false;
+  idle.LeaveTransfer();
   if (view.status_line != context.texts.job_in_progress) return;
   idle.SetStatusLine("");
   idle.GetNextTransferTime();

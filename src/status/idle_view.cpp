@@ -156,7 +156,7 @@ void IdleView::Decide(const TransferSnapshot& transfer) {
   // 4.
   if (transfer.in_progress) return ShowTransfer(transfer);
   // 5.
-  view_.transfer_shown = false;
+  LeaveTransfer();
   if (memory_.idle_user != Now().user) {
     SetStatusLine("");
     GetNextTransferTime();
@@ -197,6 +197,11 @@ void IdleView::ShowTransfer(const TransferSnapshot& transfer) {
   } else {
     ShowUnseenTransfer(transfer);
   }
+}
+
+void IdleView::LeaveTransfer() {
+  const bool was_shown = std::exchange(view_.transfer_shown, false);
+  if (was_shown && view_.status_line.empty()) GetNextTransferTime();
 }
 
 void IdleView::ShowUnseenTransfer(const TransferSnapshot& transfer) {

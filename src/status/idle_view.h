@@ -46,6 +46,9 @@ class IdleView {
   // read once. `desktop_notification` is that value of BackupStatus.
   void Load(const TransferSnapshot& transfer, std::string_view desktop_notification);
 
+  // No transfer runs: away from its view, which had emptied the status line and hidden the quota.
+  void LeaveTransfer();
+
   // A transfer that is shown neither here nor by the engine's own window.
   void ShowUnseenTransfer(const TransferSnapshot& transfer);
 

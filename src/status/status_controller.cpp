@@ -25,7 +25,7 @@ void StatusController::Load() {
   view_ = {};
   memory_ = {};
   sliding_.reset();
-  const StatusContext context = ReadStatusContext(machine_, state_);
+  const StatusContext context = ReadContext();
   StatusEffects effects;
   TakeForceRefresh();
   shared::ProfileStore(machine_, state_).RefreshCurrentUser();
@@ -36,7 +36,7 @@ void StatusController::Load() {
 }
 
 void StatusController::SlowTick() {
-  const StatusContext context = ReadStatusContext(machine_, state_);
+  const StatusContext context = ReadContext();
   StatusEffects effects;
   TakeForceRefresh();
   shared::ProfileStore(machine_, state_).RefreshCurrentUser();
@@ -46,7 +46,7 @@ void StatusController::SlowTick() {
 }
 
 void StatusController::FastTick() {
-  const StatusContext context = ReadStatusContext(machine_, state_);
+  const StatusContext context = ReadContext();
   StatusEffects effects;
   const std::string user = shared::ProfileStore(machine_, state_).RefreshCurrentUser();
   IdleView idle = MakeIdleView(effects, context);
@@ -69,7 +69,7 @@ void StatusController::ViewLogClick() {
     channel_.WriteBackupStatus(kDllStatus, kDllNothing);
   }
   TraceLine("   [INFORMATION] Completed View-Log functionality");
-  const StatusContext context = ReadStatusContext(machine_, state_);
+  const StatusContext context = ReadContext();
   if (channel_.SyncPaused() || view_.status_line == context.texts.job_in_progress) return;
   StatusEffects effects;
   IdleView idle = MakeIdleView(effects, context);
@@ -97,6 +97,10 @@ IdleView StatusController::MakeIdleView(StatusEffects& effects, const StatusCont
       links_.schedule);
 }
 
+StatusContext StatusController::ReadContext() {
+  return ReadStatusContext(machine_, state_, screen_.LargeFontMode());
+}
+
 // A refresh of the transfer view goes with the normal priority: the engine's scheduling must not
 // leave the agent starved.
 TransferSnapshot StatusController::ReadTransfer() {
@@ -115,8 +119,9 @@ void StatusController::Finish(const StatusEffects& effects) {
   }
 }
 
-// A tick does not move the slider under the hand that holds it.
+// A tick does not move the slider under the hand that holds it, as long as it is there to be held.
 void StatusController::Render() {
+  if (!view_.transfer_shown) sliding_.reset();
   if (sliding_) view_.transfer.bandwidth.value = *sliding_;
   screen_.Render(view_);
 }

@@ -73,6 +73,7 @@ class StatusController {
 
  private:
   IdleView MakeIdleView(StatusEffects& effects, const StatusContext& context);
+  StatusContext ReadContext();
   TransferSnapshot ReadTransfer();
   void Finish(const StatusEffects& effects);
   void Render();

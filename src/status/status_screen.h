@@ -9,6 +9,9 @@ class StatusScreen {
  public:
   virtual ~StatusScreen() = default;
 
+  // True on a screen of other than 96 dots per inch: texts are smaller and break earlier.
+  virtual bool LargeFontMode() const = 0;
+
   // Shows what differs from before.
   virtual void Render(const StatusView& view) = 0;
 

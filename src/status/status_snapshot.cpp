@@ -102,9 +102,10 @@ TransferSnapshot ReadTransferSnapshot(platform::Platform& machine, shared::Agent
   return now;
 }
 
-StatusContext ReadStatusContext(platform::Platform& machine, const shared::AgentState& state) {
+StatusContext ReadStatusContext(platform::Platform& machine, const shared::AgentState& state,
+                                bool large_fonts) {
   shared::Texts texts(machine, state);
-  return {state.ProductNumber, state.DisplayName, state.LargeFonts, ReadStatusTexts(texts, state)};
+  return {state.ProductNumber, state.DisplayName, large_fonts, ReadStatusTexts(texts, state)};
 }
 
 }  // namespace status

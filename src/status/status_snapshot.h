@@ -70,7 +70,7 @@ struct TransferSnapshot {
 struct StatusContext {
   std::int16_t product_number = 2;  // 1 partner edition
   std::string display_name;
-  bool large_fonts = false;
+  bool large_fonts = false;  // LargeFontMode of the window
   StatusTexts texts;
 };
 
@@ -80,6 +80,7 @@ IdleSnapshot ReadIdleSnapshot(platform::Platform& machine, shared::AgentState& s
 // Reads the channel of CurrentUser; `progress` only as far as a transfer is marked.
 TransferSnapshot ReadTransferSnapshot(platform::Platform& machine, shared::AgentState& state);
 
-StatusContext ReadStatusContext(platform::Platform& machine, const shared::AgentState& state);
+StatusContext ReadStatusContext(platform::Platform& machine, const shared::AgentState& state,
+                                bool large_fonts);
 
 }  // namespace status

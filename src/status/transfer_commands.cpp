@@ -33,7 +33,7 @@ std::string StatusController::PausedTip(std::string_view job) const {
 
 void StatusController::RefreshTransfer() {
   const TransferSnapshot transfer = ReadTransfer();
-  RefreshProgressView(view_, transfer, ReadStatusContext(machine_, state_));
+  RefreshProgressView(view_, transfer, ReadContext());
   ShowBandwidthSlider(view_.transfer.bandwidth, transfer);
   Render();
 }
@@ -77,7 +77,7 @@ void StatusController::CancelClick() {
 }
 
 void StatusController::ResetStatusWindow() {
-  const StatusContext context = ReadStatusContext(machine_, state_);
+  const StatusContext context = ReadContext();
   StatusEffects effects;
   IdleView idle = MakeIdleView(effects, context);
   // 1.

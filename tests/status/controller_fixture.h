@@ -15,6 +15,7 @@ namespace status {
 
 class RecordedScreen : public StatusScreen {
  public:
+  bool LargeFontMode() const override { return large_fonts; }
   void Render(const StatusView& view) override {
     views.push_back(view);
     if (when_rendered) when_rendered(view);
@@ -22,6 +23,7 @@ class RecordedScreen : public StatusScreen {
   void SetShown(bool shown) override { events.push_back(shown ? "show" : "hide"); }
   void Unload() override { events.push_back("unload"); }
 
+  bool large_fonts = false;
   std::vector<StatusView> views;
   std::vector<std::string> events;
   std::function<void(const StatusView&)> when_rendered;

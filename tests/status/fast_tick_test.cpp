@@ -130,6 +130,17 @@ TEST_F(FastTickTest, ClearsTheTextOfTheRunningJobWhenItHasEnded) {
   EXPECT_TRUE(view.log_enabled);
 }
 
+TEST_F(FastTickTest, TellsTheTimeAndTheQuotaAgainBehindTheTransferView) {
+  Transfer("1", "0", 66304);
+  Fast();
+  EXPECT_FALSE(view.quota_bar_shown);
+  transfer = {};
+  Fast();
+  EXPECT_FALSE(view.transfer_shown);
+  EXPECT_EQ(view.status_line, "Backup will start in next 2 hour(s).");
+  EXPECT_TRUE(view.quota_bar_shown && view.quota_text_shown && view.space_label_shown);
+}
+
 TEST_F(FastTickTest, LeavesAnyOtherTextWhenTheTransferHasEnded) {
   view.transfer_shown = true;
   view.status_line = "4 files backed up.";

@@ -98,6 +98,19 @@ TEST_F(IdleViewTest, StopsAllOutcomesForAsLongAsTheStatusWindowIsTwo) {
   EXPECT_TRUE(effects.InOrder().empty());
 }
 
+TEST_F(IdleViewTest, TellsTheTimeAndTheQuotaAgainBehindTheTransferView) {
+  transfer.in_progress = true;
+  transfer.backup = "1";
+  transfer.window_status = "0";
+  transfer.window_value = 66304;
+  Tick();
+  EXPECT_EQ(view.status_line, "");
+  transfer = {};
+  Tick();
+  EXPECT_EQ(view.status_line, "Backup will start in next 2 hour(s).");
+  EXPECT_TRUE(view.quota_bar_shown && view.quota_text_shown && view.space_label_shown);
+}
+
 TEST_F(IdleViewTest, RefreshesOnceAMinute) {
   for (int tick = 1; tick <= 12; ++tick) {
     Tick();

@@ -9,6 +9,17 @@ using Lines = std::vector<std::string>;
 
 class TransferCommands : public testing::Test, public ControllerFixture {
  protected:
+  // True when the trace has these pieces, each behind the one before.
+  bool TraceHasInOrder(const Lines& pieces) {
+    const std::string trace = TraceText();
+    std::size_t at = 0;
+    for (const std::string& piece : pieces) {
+      at = trace.find(piece, at);
+      if (at == std::string::npos) return false;
+      at += piece.size();
+    }
+    return true;
+  }
   // Writes of one section, as "key=value".
   Lines StatusWrites() {
     Lines result;
@@ -104,6 +115,9 @@ TEST_F(TransferCommands, EndAnInteractiveBackup) {
   EXPECT_EQ(Read("Cancel"), "1");
   EXPECT_EQ(screen.events, Lines{"unload"});
   EXPECT_FALSE(View().slow_timer || View().fast_timer);
+  EXPECT_TRUE(
+      TraceHasInOrder({"Progress Cancel pressed", "[INFORMATION] Progress Cancel confirm - YES",
+                       "[INFORMATION] strProgramVal :1", "Backup or restore progress canceled."}));
 }
 
 TEST_F(TransferCommands, LeaveAScheduledJobToTheTraysStop) {

@@ -65,6 +65,7 @@ class Host final : public FormHost {
 
   // The screen, 1920 by 1040 at first.
   void SetDesktop(const Rect& desktop) { desktop_ = desktop; }
+  void SetScreenDpi(int dpi) { screen_dpi_ = dpi; }
   // Where a form stands.
   Rect Place(Form& form);
 
@@ -79,6 +80,7 @@ class Host final : public FormHost {
   void PopUp(Form& form, Menu& menu) override;
   void StartDrag(Form& form) override;
   Rect GetDesktopRectt() override { return desktop_; }
+  int ScreenDpi() override { return screen_dpi_; }
   platform::WindowId Window(const Form& form) override;
   platform::WindowId Window(const Control& control) override;
   Size MeasureText(const Form& form, std::string_view text, Font font, int width) override;
@@ -109,6 +111,7 @@ class Host final : public FormHost {
   int menus_shown_ = 0;
   std::string last_menu_;
   Rect desktop_ = {0, 0, 1920, 1040};
+  int screen_dpi_ = 96;
 };
 
 }  // namespace forms::memory

@@ -30,6 +30,7 @@ class Host final : public FormHost {
   void PopUp(Form& form, Menu& menu) override;
   void StartDrag(Form& form) override;
   Rect GetDesktopRectt() override;
+  int ScreenDpi() override { return screen_.Dpi(nullptr); }
   platform::WindowId Window(const Form& form) override;
   platform::WindowId Window(const Control& control) override;
   Size MeasureText(const Form& form, std::string_view text, Font font, int width) override;

@@ -9,7 +9,8 @@ namespace {
 
 using forms::Point;
 
-constexpr int kOverhang = 2;  // 25 twips, in whole units
+constexpr int kOrdinaryDpi = 96;
+constexpr int kOverhang = 1;  // at most 25 twips, in whole units
 constexpr int kKnobSize = 16;
 constexpr std::int32_t kTipWidth = 100;
 constexpr std::int32_t kTipStays = 1000000;  // milliseconds
@@ -42,6 +43,7 @@ frmStatus::frmStatus(forms::FormHost& host, platform::Platform& machine, shared:
 
 void frmStatus::Arm() {
   on_load = [this] {
+    grabbed_.reset();
     MakeToolTips();
     controller_.Load();
   };
@@ -129,6 +131,10 @@ void frmStatus::ShowTip(const forms::Control& control, std::string_view text) {
   tips_.AddTool(tipped_, text);
 }
 
+bool frmStatus::LargeFontMode() const {
+  return Host().ScreenDpi() != kOrdinaryDpi;
+}
+
 void frmStatus::SetShown(bool shown) {
   if (!Loaded()) return;
   if (shown) {
@@ -140,6 +146,7 @@ void frmStatus::SetShown(bool shown) {
 
 void frmStatus::Render(const StatusView& view) {
   if (!Loaded()) return;
+  if (!view.transfer_shown) grabbed_.reset();
   SetCaption(view.title);
   Label1.SetText(view.title);
   Image2.SetPicture(view.transfer_shown ? "hide" : "close");

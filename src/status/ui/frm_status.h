@@ -29,6 +29,7 @@ class frmStatus : public forms::Form, private StatusScreen {
 
  private:
   // StatusScreen.
+  bool LargeFontMode() const override;
   void Render(const StatusView& view) override;
   void SetShown(bool shown) override;
 
