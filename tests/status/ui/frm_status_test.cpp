@@ -4,11 +4,13 @@
 
 #include "forms/memory/dump.h"
 #include "forms/memory/host.h"
+#include "tests/forms/golden.h"
 #include "tests/status/controller_fixture.h"
 
 namespace status {
 namespace {
 
+using forms::testing::Golden;
 using Lines = std::vector<std::string>;
 
 class FrmStatusTest : public testing::Test, public StatusMachine {
@@ -34,7 +36,9 @@ class FrmStatusTest : public testing::Test, public StatusMachine {
   ToldSchedule schedule;
   RecordedCommands commands;
   ToldMessages messages;
-  forms::memory::Host host{machine.platform().events};
+  Lines seen;
+  forms::memory::Host host{machine.platform().events,
+                           [this](const std::string& line) { seen.push_back(line); }};
   frmStatus window{host, machine.platform(), state, {schedule, commands, messages}};
 };
 
@@ -193,6 +197,32 @@ TEST_F(FrmStatusTest, StopsTheKnobAtTheEndsOfTheBox) {
   EXPECT_EQ(Text("LabelBand"), "100%");
 }
 
+TEST_F(FrmStatusTest, LetsTheKnobGoWhenTheTransferEndsUnderTheHand) {
+  ShowBackup();
+  window.Arrange();
+  forms::Control& knob = At("PictSliderKnob2");
+  const forms::Rect box = At("PictSliderBox2").Bounds();
+  knob.on_mouse_down({8, 8});
+  knob.on_mouse_move({8 - (box.width - 16) / 2, 8});
+  SetProgress("BackupProgressInfo", "BackupInProgress", "0");
+  machine.Run(2000);
+  knob.on_mouse_up({8, 8});
+  EXPECT_EQ(machine.files().IniValue(kUserIni, "Registry", "Bandwidth"), "");
+  SetProgress("BackupProgressInfo", "BackupInProgress", "1");
+  machine.Run(2000);
+  EXPECT_EQ(Text("LabelBand"), "100%");
+}
+
+TEST_F(FrmStatusTest, LetsTheKnobGoWhenItIsUnloadedUnderTheHand) {
+  ShowBackup();
+  At("PictSliderKnob2").on_mouse_down({8, 8});
+  host.Press("frmStatus", forms::Key::kEscape);
+  window.Show();
+  window.Arrange();
+  At("PictSliderKnob2").on_mouse_move({-40, 8});
+  EXPECT_EQ(Text("LabelBand"), "100%");
+}
+
 TEST_F(FrmStatusTest, MovesTheSliderByTheKeyboard) {
   ShowBackup();
   static_cast<forms::Slider&>(At("Slider2")).Move(70);
@@ -226,6 +256,44 @@ TEST_F(FrmStatusTest, SwapsThePicturesOfItsButtonsUnderTheMouse) {
   EXPECT_EQ(Text("imgViewLog"), "Small Btn1");
 }
 
+TEST_F(FrmStatusTest, TellsWhatTheCornerButtonDoes) {
+  window.Show();
+  host.MoveOver("frmStatus", "Image2");
+  EXPECT_EQ(seen.back(), "tip \"Close\"");
+  StartTransfer("1");
+  machine.Run(2000);
+  host.MoveOver("frmStatus", "Image2");
+  EXPECT_EQ(seen.back(), "tip \"Hide\"");
+}
+
+TEST_F(FrmStatusTest, TellsTheWholePathOfTheFile) {
+  ShowBackup();
+  host.MoveOver("frmStatus", "BkupFilepath");
+  EXPECT_EQ(seen.back(), "tip \"C:\\Users\\anna\\Pictures\\summer.jpg\"");
+}
+
+struct ScreenCase {
+  int dpi;
+  std::size_t first_line;
+  int points;
+};
+
+TEST_F(FrmStatusTest, GoesByTheScreenForTheSizeOfTexts) {
+  state.LargeFonts = true;  // of the agent, not of this window
+  for (const ScreenCase& one : {ScreenCase{96, 70, 10}, ScreenCase{144, 62, 9}}) {
+    SCOPED_TRACE(one.dpi);
+    host.SetScreenDpi(one.dpi);
+    SetProgress("BackupProgressInfo", "BackupInProgress", "0");
+    window.Show();
+    EXPECT_EQ(window.Find("lblHoursInfo")->TextFont().points, one.points);
+    StartTransfer("1");
+    SetProgress("BackupProgressInfo", "FileName", std::string(71, 'x'));
+    machine.Run(2000);
+    EXPECT_EQ(Text("BkupFilepath").find("\r\n"), one.first_line);
+    window.Unload();
+  }
+}
+
 TEST_F(FrmStatusTest, IsDraggedByItsTitle) {
   for (const std::string_view label : {"Label1", "Label2", "Label4"}) {
     EXPECT_TRUE(static_cast<forms::Label*>(window.Find(label))->DragsWindow());
@@ -249,6 +317,25 @@ TEST_F(FrmStatusTest, KeepsItsSizeWhenItTurnsToATransfer) {
   ShowBackup();
   machine.Run(2000);
   EXPECT_EQ(window.Arrange(), at_rest);
+}
+
+TEST_F(FrmStatusTest, LooksAsItWasLookedAtAtRest) {
+  window.Show();
+  const std::string dump = forms::memory::Dump(window);
+  EXPECT_EQ(dump, Golden("frmStatus", dump));
+}
+
+TEST_F(FrmStatusTest, LooksAsItWasLookedAtInATransfer) {
+  ShowBackup();
+  const std::string dump = forms::memory::Dump(window);
+  EXPECT_EQ(dump, Golden("frmStatus_transfer", dump));
+}
+
+TEST_F(FrmStatusTest, LooksAsItWasLookedAtLoggedOut) {
+  LogIn("");
+  window.Show();
+  const std::string dump = forms::memory::Dump(window);
+  EXPECT_EQ(dump, Golden("frmStatus_logged_out", dump));
 }
 
 TEST_F(FrmStatusTest, SurvivesAPressOnEachControl) {
