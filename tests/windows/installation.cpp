@@ -27,10 +27,6 @@ std::string WindowsPath(std::string path) {
   return path.starts_with('\\') ? "Z:" + path : path;
 }
 
-std::string InBuild(std::string_view name) {
-  return WindowsPath(SORVANE_LAB_FOLDER) + "\\" + std::string(name);
-}
-
 std::string PathOf(DWORD process) {
   const HANDLE handle = OpenProcess(PROCESS_QUERY_INFORMATION | PROCESS_VM_READ, FALSE, process);
   if (!handle) return "";
@@ -71,6 +67,10 @@ void CopyPictures(const std::string& to) {
 
 }  // namespace
 
+std::string InBuild(std::string_view name) {
+  return WindowsPath(SORVANE_LAB_FOLDER) + "\\" + std::string(name);
+}
+
 bool WaitUntil(const std::function<bool()>& done) {
   const DWORD start = GetTickCount();
   while (!done()) {
@@ -83,6 +83,8 @@ bool WaitUntil(const std::function<bool()>& done) {
 Installation::Installation() {
   places_.install_folder = "C:\\SorvaneTest" + std::to_string(GetCurrentProcessId());
   RegDeleteTreeA(HKEY_CURRENT_USER, kProductKey);
+  // The number of a process comes back; what an earlier one left does not count.
+  machine().files.RemoveFolder(places_.install_folder);
   CreateDirectoryA(places_.install_folder.c_str(), nullptr);
   CopyPictures(places_.InInstallFolder("Images"));
   const struct {

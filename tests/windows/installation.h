@@ -16,6 +16,9 @@
 // Waits until `done` gives true; false after half a minute.
 bool WaitUntil(const std::function<bool()>& done);
 
+// A file of the lab's build as Windows programs see it.
+std::string InBuild(std::string_view name);
+
 class Installation {
  public:
   // Lays everything out anew; nobody is logged in, the product's registry keys are gone.
