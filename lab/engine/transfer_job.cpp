@@ -242,8 +242,11 @@ void TransferJob::EndScheduledJob(Outcome outcome) {
   SetStatus(status::kCancel, "0");
   SetStatus(status::kStatus,
             outcome == Outcome::kCancelled ? status::kStatusStopRequested : status::kStatusIdle);
-  SetStatus(status::kDllStatus, "2");
   SetStatus(status::kStatusWindow, "1");
+  // Whoever cancels ends the client soon: there is no time to wait for an answer.
+  if (outcome == Outcome::kCancelled)
+    return SetStatus(status::kDllStatus, TextOf(outcome).end_state);
+  SetStatus(status::kDllStatus, "2");
   phase_ = Phase::kAcknowledge;
   waits_left_ = kAcknowledgeSteps;
 }
