@@ -10,6 +10,7 @@ import sys
 import time
 
 from desk import Desk, wait_for, windows_path
+from scenes import Scenes
 from shared_files import SharedFiles
 from timeline import Timeline
 
@@ -186,7 +187,7 @@ class Demo:
 
     def play(self):
         for act in (self.begin, self.back_up, self.clear, self.renew_shell, self.answer_a_question,
-                    self.alert, self.end):
+                    self.alert, Scenes(self).play, self.end):
             act()
 
 
