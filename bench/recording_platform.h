@@ -1,7 +1,7 @@
 // A machine whose calls are noted by a recorder on their way to another machine.
 //
-// Only the ports that the measured work goes to are noted; calls of the others are left out, which makes a
-// comparison with the noted calls stricter. No timer starts: what ticks is called by hand.
+// Only the ports that the measured work goes to are noted; calls of the others are left out, which
+// makes a comparison with the noted calls stricter. No timer starts: what ticks is called by hand.
 #pragma once
 
 #include "bench/recorder.h"
