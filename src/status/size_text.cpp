@@ -1,8 +1,8 @@
 #include "status/size_text.h"
 
 #include <array>
-#include <charconv>
 #include <cstddef>
+#include <cstdio>
 
 namespace status {
 namespace {
@@ -33,9 +33,8 @@ Scaled Scale(double bytes) {
 // Fifteen significant digits: what the number's text shows everywhere else.
 std::string NumberText(double value) {
   std::array<char, 32> buffer{};
-  const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                     std::chars_format::general, 15);
-  return {buffer.data(), written.ptr};
+  std::snprintf(buffer.data(), buffer.size(), "%.15g", value);
+  return buffer.data();
 }
 
 }  // namespace

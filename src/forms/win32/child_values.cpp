@@ -55,7 +55,7 @@ void ShowColumns(HWND window, const ListView& list, int dpi) {
 // The list owns the image list that it is given.
 int AddPicture(HIMAGELIST images, const std::string& key, Screen& screen, int size) {
   const HICON picture = screen.pictures.Get(key, size);
-  return picture ? ImageList_ReplaceIcon(images, -1, picture) : -1;
+  return picture ? screen.controls.AddPicture(images, picture) : -1;
 }
 
 void ShowRow(HWND window, int place, const Row& row, int image) {
@@ -78,10 +78,10 @@ void ShowList(HWND window, const ListView& list, Screen& screen, int dpi) {
   SendMessageA(window, LVM_DELETEALLITEMS, 0, 0);
   ShowColumns(window, list, dpi);
   const int size = ToPixels(kListPictureSize, dpi);
-  const HIMAGELIST images = ImageList_Create(size, size, ILC_COLOR32 | ILC_MASK, 0, 8);
+  const HIMAGELIST images = screen.controls.CreateImageList(size);
   const auto before = reinterpret_cast<HIMAGELIST>(
       SendMessageA(window, LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(images)));
-  if (before) ImageList_Destroy(before);
+  if (before) screen.controls.DestroyImageList(before);
   int place = 0;
   for (const Row& row : list.Rows()) {
     ShowRow(window, place++, row,

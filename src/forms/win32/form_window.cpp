@@ -67,6 +67,8 @@ bool FormWindow::Create() {
 
 // In the order of the members, which is from the top to the bottom; frames lie under all.
 void FormWindow::CreateChildren() {
+  if (form_.Controls().empty()) return;
+  screen_.controls.Require();
   for (const bool frames : {false, true}) {
     for (Control* control : form_.Controls()) {
       if ((control->Kind() == ControlKind::kFrame) != frames) continue;

@@ -1,7 +1,5 @@
 #include "forms/win32/host.h"
 
-#include <commctrl.h>
-
 #include <algorithm>
 #include <string>
 
@@ -11,9 +9,6 @@
 
 namespace forms::win32 {
 namespace {
-
-constexpr DWORD kControlClasses =
-    ICC_STANDARD_CLASSES | ICC_WIN95_CLASSES | ICC_DATE_CLASSES | ICC_LISTVIEW_CLASSES;
 
 struct KeyName {
   WPARAM number;
@@ -56,8 +51,6 @@ platform::WindowId ToId(HWND window) {
 
 Host::Host(platform::win32::Events& events, int fixed_dpi) : events_(events) {
   screen_.fixed_dpi = fixed_dpi;
-  const INITCOMMONCONTROLSEX classes = {sizeof(classes), kControlClasses};
-  InitCommonControlsEx(&classes);
   events_.SetMessageFilter([this](MSG& message) { return FilterKey(message); });
 }
 

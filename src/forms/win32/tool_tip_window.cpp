@@ -37,6 +37,7 @@ LRESULT ToolTipWindow::Send(UINT message, WPARAM wparam, const void* lparam) con
 }
 
 bool ToolTipWindow::Create(platform::WindowId owner, TipStyle style) {
+  screen_.controls.Require();
   owner_ = ToWindow(owner);
   window_ = platform::win32::ScopedWindow(
       CreateWindowExA(WS_EX_TOPMOST | (style.right_to_left ? WS_EX_LAYOUTRTL : 0), TOOLTIPS_CLASSA,

@@ -31,17 +31,20 @@ const char* OrNull(const std::string& text) {
 
 }  // namespace
 
-ComApartment::ComApartment()
-    : entered_(
-          SUCCEEDED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE))) {}
+ComApartment::ComApartment(SystemLibrary& ole) : ole_(ole) {
+  const auto enter = ole_.Find<decltype(&CoInitializeEx)>("CoInitializeEx");
+  constexpr DWORD kKind = COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE;
+  entered_ = enter && SUCCEEDED(enter(nullptr, kKind));
+}
 
 ComApartment::~ComApartment() {
-  if (entered_) CoUninitialize();
+  const auto leave = ole_.Find<decltype(&CoUninitialize)>("CoUninitialize");
+  if (entered_ && leave) leave();
 }
 
 int Shell::Open(std::string_view file, std::string_view arguments, std::string_view folder,
                 WindowShow show) {
-  const ComApartment com;
+  const ComApartment com(ole_);
   const std::string argument_text(arguments);
   const std::string folder_text(folder);
   const HINSTANCE answer =
@@ -52,7 +55,7 @@ int Shell::Open(std::string_view file, std::string_view arguments, std::string_v
 
 StartResult Shell::Start(ShellVerb verb, std::string_view file, std::string_view arguments,
                          std::string_view folder, WindowShow show) {
-  const ComApartment com;
+  const ComApartment com(ole_);
   const std::string file_text(file);
   const std::string argument_text(arguments);
   const std::string folder_text(folder);

@@ -7,18 +7,20 @@
 #include "platform/win32/notification_icon.h"
 #include "platform/win32/pictures.h"
 #include "platform/win32/scoped.h"
+#include "platform/win32/system_library.h"
 
 namespace platform::win32 {
 
 // The shell's helpers may want COM on the thread that opens something.
 class ComApartment {
  public:
-  ComApartment();
+  explicit ComApartment(SystemLibrary& ole);
   ComApartment(const ComApartment&) = delete;
   ComApartment& operator=(const ComApartment&) = delete;
   ~ComApartment();
 
  private:
+  SystemLibrary& ole_;
   bool entered_;
 };
 
@@ -38,6 +40,7 @@ class Shell final : public platform::Shell {
   void ShowStopBox(std::string_view text, std::string_view caption) override;
 
  private:
+  SystemLibrary ole_{"ole32.dll"};
   NotificationIcon icon_;
   Pictures pictures_;
   std::deque<ScopedHandle> started_;  // the latest few: callers wait on them at any time later
