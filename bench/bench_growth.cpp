@@ -54,8 +54,8 @@ void MeasureGrowth(const std::string& name, int times, const std::function<void(
   Checkpoint(name + " after");
   for (const CountedKind& kind : kKinds) {
     const std::uint64_t created = platform::win32::CountOf(kind.kind).created;
-    const auto growth = static_cast<std::int64_t>(
-        Outstanding(kind.kind) - before[static_cast<std::size_t>(kind.kind)]);
+    const auto growth = static_cast<std::int64_t>(Outstanding(kind.kind) -
+                                                  before[static_cast<std::size_t>(kind.kind)]);
     std::printf("%s, %d times: %llu %s outstanding, %llu made since the start\n", name.c_str(),
                 times, static_cast<unsigned long long>(Outstanding(kind.kind)), kind.name,
                 static_cast<unsigned long long>(created));

@@ -8,12 +8,20 @@
 
 namespace bench {
 
+// Microseconds of one run, undisturbed.
+struct Pair {
+  double work = 0;
+  double bare = 0;
+};
+
+// Runs both in turn, so that what disturbs one disturbs the other.
+Pair TimeInTurn(int runs, const std::function<void()>& work, const std::function<void()>& bare);
+
 struct Comparison {
   std::size_t calls = 0;  // of the ports, in one run of the work
-  double work = 0;        // microseconds, undisturbed
-  double bare = 0;
+  Pair times;
 
-  double Ratio() const { return bare > 0 ? work / bare : 0; }
+  double Ratio() const { return times.work / times.bare; }
 };
 
 // Notes the calls of one run of `work`, then runs the work and the bare calls in turn.
