@@ -3,7 +3,7 @@
 
 declare -A packages=(
   [build]="g++ cmake ninja-build ccache g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix python3"
-  [test]="libgtest-dev googletest"
+  [test]="libgtest-dev libgmock-dev googletest"
   [screen]="wine wine64 xvfb xdotool imagemagick x11-utils fonts-wine fonts-liberation fonts-open-sans"
   [bench]="libbenchmark-dev"
   [fuzz]="clang libclang-rt-14-dev"
