@@ -67,7 +67,7 @@ TEST(StatusWindowStory, ShowsTheOutcomeWhenTheJobEnds) {
   EXPECT_TRUE(WaitForText(kStatusWindowClass, "Your next backup will occur on "));
 }
 
-TEST(StatusWindowStory, GivesMoreOfTheLineByTheKeyboardOnlyWhatIsChosen) {
+TEST(StatusWindowStory, TurnsAutoPauseOverWithTheMouse) {
   Story story;
   ASSERT_TRUE(story.StartAgentWithJob(100, 500));
   ASSERT_TRUE(story.Choose("Status"));
