@@ -279,28 +279,43 @@ TEST_F(ContinuousBackupTest, AMissingModuleIsASilentFailure) {
   EXPECT_EQ(agent_.Shared(keys::kRealTimeBackup), "0");
 }
 
-TEST_F(ContinuousBackupTest, TicksAndEveryMenuItemRunThroughTheWait) {
+// Opens the menu for each of its items, one after another, while a handler waits.
+int OpenEveryItem(InstalledAgent& agent) {
+  int popups = 0;
+  for (const auto& item : agent.agent().form().menu().Popup().Items()) {
+    if (item.Name() == "MnuExit" || item.Separator()) continue;
+    agent.machine.AtAgent(agent.machine.now() + 300 + 150 * static_cast<unsigned>(popups++),
+                          [&agent, name = item.Name()] {
+                            auto& form = agent.agent().form();
+                            agent.host.ChooseFromMenu(name);
+                            form.PopUp(form.menu().Popup());
+                          });
+  }
+  return popups;
+}
+
+TEST_F(ContinuousBackupTest, TicksAndEveryMenuItemRunThroughTheWaitForTheModule) {
   agent_.SetShared(keys::kRtBackup, "1");
   ASSERT_TRUE(agent_.Start());
-  agent_.machine.journal().Clear();
-  int popups = 0;
-  for (const auto& item : agent_.agent().form().menu().Popup().Items()) {
-    if (item.Name() == "MnuExit" || item.Separator()) continue;
-    agent_.machine.AtAgent(agent_.machine.now() + 300 + 150 * static_cast<unsigned>(popups++),
-                           [this, name = item.Name()] {
-                             // Not by right clicks: those that wait together are one popup.
-                             auto& form = agent_.agent().form();
-                             form.menu().UpdateTrayMenu();
-                             agent_.host.ChooseFromMenu(name);
-                             form.PopUp(form.menu().Popup());
-                           });
-  }
+  const int popups = OpenEveryItem(agent_);
   Item().SetChecked(true);
   Click("Continue");
   agent_.machine.Run(8000);
   EXPECT_FALSE(agent_.machine.ran_away());
   EXPECT_EQ(agent_.Shared(keys::kRealTimeBackup), "0");
   EXPECT_FALSE(agent_.state().ContinuousSwitchUnderWay);
+  EXPECT_GE(agent_.host.MenusShown(), popups);
+}
+
+TEST_F(ContinuousBackupTest, TicksAndEveryMenuItemRunThroughTheWaitForTheEngine) {
+  script_ = std::vector<std::string>(8, "-1");
+  ASSERT_TRUE(agent_.Start());
+  const int popups = OpenEveryItem(agent_);
+  Click("Continue");
+  agent_.machine.Run(30000);
+  EXPECT_FALSE(agent_.machine.ran_away());
+  EXPECT_FALSE(agent_.state().ContinuousSwitchUnderWay);
+  EXPECT_FALSE(Timer().Enabled());
   EXPECT_GE(agent_.host.MenusShown(), popups);
 }
 
