@@ -212,7 +212,8 @@ class Scenes:
         """A user's first start makes the exclusion lists, the default set and a schedule."""
         self.tell("main program", "marks a new user")
         self.profile("Tolvex", shifted("FirstUser"), shifted("TRUE"))
-        (self.user / "scheduleData.txt").unlink(missing_ok=True)
+        for name in ("scheduleData.txt", "SchStatusError.txt"):
+            (self.user / name).unlink(missing_ok=True)
         wait_for("the default schedule", (self.user / "scheduleData.txt").exists, 60)
         self.demo.rest_on_icon("Backup will start in next")
         self.photograph("new-user", "a new user has a schedule; the tip tells it")
