@@ -20,6 +20,8 @@ start_screen "$screen"
 use_wine_prefix test "$screen"
 start_shell "$screen"
 
+selection=(-LE story)
+[ "$command" != stories ] || selection=(-L story)
 result=0
-ctest --test-dir build/test --output-on-failure --no-tests=error -j "$(nproc)" "$@" || result=$?
+ctest --test-dir build/test "${selection[@]}" --output-on-failure --no-tests=error -j "$(nproc)" "$@" || result=$?
 exit "$result"
