@@ -52,9 +52,6 @@ class Processes {
   // stopped: callers return at once after it.
   virtual void ExitSelf(std::uint32_t code) = 0;
 
-  // True when another process runs this same executable file.
-  virtual bool IsPreviousInstanceRunning() = 0;
-
   // Creates the named mutex with initial ownership and keeps it for the life of the process.
   // Returns 0, or the error; 183 (already exists) when some process has it, and then it is released
   // and closed again.

@@ -86,13 +86,6 @@ void MemoryProcesses::ExitSelf(std::uint32_t code) {
   world_.timeline.EndAgent();
 }
 
-bool MemoryProcesses::IsPreviousInstanceRunning() {
-  if (world_.gate.Fails("processes.IsPreviousInstanceRunning")) return false;
-  return std::any_of(running_.begin(), running_.end(), [&](const auto& entry) {
-    return entry.first != own_id_ && EqualIgnoreCase(entry.second.path, executable_);
-  });
-}
-
 std::uint32_t MemoryProcesses::HoldMutex(std::string_view name) {
   if (world_.gate.Fails("processes.HoldMutex", name)) return kAccessDenied;
   if (own_mutexes_.count(name) != 0 || foreign_mutexes_.count(name) != 0) {

@@ -41,18 +41,6 @@ void Processes::ExitSelf(std::uint32_t code) {
   ExitProcess(code);
 }
 
-bool Processes::IsPreviousInstanceRunning() {
-  constexpr std::size_t kAll = 1u << 16;
-  const std::string own_path = ExecutablePath();
-  const ProcessId own_id = GetCurrentProcessId();
-  bool found = false;
-  win32::WalkModulePaths(kAll, [&](const ProcessEntry& entry) {
-    found = entry.id != own_id && lstrcmpiA(entry.name.c_str(), own_path.c_str()) == 0;
-    return !found;
-  });
-  return found;
-}
-
 std::uint32_t Processes::HoldMutex(std::string_view name) {
   SetLastError(ERROR_SUCCESS);
   ScopedHandle mutex(CreateMutexA(nullptr, TRUE, std::string(name).c_str()));

@@ -13,7 +13,6 @@ class Processes final : public platform::Processes {
   void WalkSnapshot(const ProcessVisitor& visit) override;
   std::uint32_t Terminate(ProcessId id, std::uint32_t access) override;
   void ExitSelf(std::uint32_t code) override;
-  bool IsPreviousInstanceRunning() override;
   std::uint32_t HoldMutex(std::string_view name) override;
   LoginName CurrentLoginName() override;
   SystemVersion Version() override;

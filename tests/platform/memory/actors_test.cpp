@@ -100,12 +100,6 @@ TEST_F(MemoryActors, RunABatchFileByTheCommandProcessor) {
   EXPECT_EQ(machine_.journal().Count("process", "end cmd.exe 0"), 1u);
 }
 
-TEST_F(MemoryActors, ShowAPreviousInstanceOfTheAgent) {
-  EXPECT_FALSE(platform().processes.IsPreviousInstanceRunning());
-  machine_.processes().Start("c:\\sorvane\\SORVANEETRAY.exe");
-  EXPECT_TRUE(platform().processes.IsPreviousInstanceRunning());
-}
-
 TEST_F(MemoryActors, HoldMutexesOfTheirOwn) {
   machine_.processes().HoldMutexElsewhere("Sorvane");
   EXPECT_EQ(platform().processes.HoldMutex("Sorvane"), kErrorAlreadyExists);

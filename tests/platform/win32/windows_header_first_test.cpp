@@ -36,12 +36,12 @@
     defined(Find) || defined(Send) || defined(Post) || defined(IsMinimised) || defined(Restore) || \
     defined(BringToFront) || defined(RegisterMessage) || defined(SetThreadExecutionState) ||       \
     defined(WalkModuleNames) || defined(WalkModulePaths) || defined(WalkSnapshot) ||               \
-    defined(Terminate) || defined(ExitSelf) || defined(IsPreviousInstanceRunning) ||               \
-    defined(HoldMutex) || defined(CurrentLoginName) || defined(Version) || defined(IsWow64) ||     \
-    defined(ExecutableFolder) || defined(ReadText) || defined(ReadInt) || defined(WriteText) ||    \
-    defined(Next) || defined(CreateKey) || defined(Write) || defined(Flush) || defined(State) ||   \
-    defined(Open) || defined(Start) || defined(LoadPicture) || defined(AddIcon) ||                 \
-    defined(SetIconPicture) || defined(SetIconTip) || defined(RemoveIcon) || defined(ShowStopBox)
+    defined(Terminate) || defined(ExitSelf) || defined(HoldMutex) || defined(CurrentLoginName) ||  \
+    defined(Version) || defined(IsWow64) || defined(ExecutableFolder) || defined(ReadText) ||      \
+    defined(ReadInt) || defined(WriteText) || defined(Next) || defined(CreateKey) ||               \
+    defined(Write) || defined(Flush) || defined(State) || defined(Open) || defined(Start) ||       \
+    defined(LoadPicture) || defined(AddIcon) || defined(SetIconPicture) || defined(SetIconTip) ||  \
+    defined(RemoveIcon) || defined(ShowStopBox)
 #error "a method of a port has the name of a macro"
 #endif
 
