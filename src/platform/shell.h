@@ -52,7 +52,9 @@ class Shell {
   virtual int Open(std::string_view file, std::string_view arguments, std::string_view folder,
                    WindowShow show) = 0;
 
-  // Starts a program and keeps its handle open until sixteen more were started.
+  // Starts a program and keeps its handle open until sixteen more were started with the same
+  // `show`: a hidden program is one that is waited for, and what a person opens meanwhile does not
+  // take its handle away.
   virtual StartResult Start(ShellVerb verb, std::string_view file, std::string_view arguments,
                             std::string_view folder, WindowShow show) = 0;
 

@@ -89,6 +89,17 @@ TEST_F(ShellContract, WaitsForEachOfTwoStartedPrograms) {
   EXPECT_EQ(WaitForEnd(first.handle), WaitResult::kSignalled);
 }
 
+TEST_F(ShellContract, WaitsForAHiddenProgramWhateverIsOpenedMeanwhile) {
+  const std::string client = machine_->ProgramThatEnds("Client.exe", 0);
+  const std::string window = machine_->ProgramThatEnds("Window.exe", 0);
+  const auto started = shell().Start(ShellVerb::kOpen, client, "", "", WindowShow::kHidden);
+  for (int opened = 0; opened < 17; ++opened) {
+    const auto other = shell().Start(ShellVerb::kOpen, window, "", "", WindowShow::kNormal);
+    EXPECT_NE(other.handle, started.handle);
+  }
+  EXPECT_EQ(WaitForEnd(started.handle), WaitResult::kSignalled);
+}
+
 TEST_F(ShellContract, DoesNotStartWhatIsMissingAndTellsAnError) {
   const auto started =
       shell().Start(ShellVerb::kOpen, In("Missing.exe"), "", "", WindowShow::kHidden);

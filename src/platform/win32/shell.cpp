@@ -70,8 +70,9 @@ StartResult Shell::Start(ShellVerb verb, std::string_view file, std::string_view
   info.nShow = ToShowCommand(show);
   if (!ShellExecuteExA(&info)) return {.handle = kNoProcess, .error = LastError()};
   if (info.hProcess == nullptr) return {};
-  started_.emplace_back(info.hProcess);
-  if (started_.size() > kKeptProcesses) started_.pop_front();
+  std::deque<ScopedHandle>& kept = started_[show];
+  kept.emplace_back(info.hProcess);
+  if (kept.size() > kKeptProcesses) kept.pop_front();
   return {.handle = reinterpret_cast<ProcessHandle>(info.hProcess), .error = 0};
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <deque>
+#include <map>
 
 #include "platform/shell.h"
 #include "platform/win32/notification_icon.h"
@@ -43,7 +44,8 @@ class Shell final : public platform::Shell {
   SystemLibrary ole_{"ole32.dll"};
   NotificationIcon icon_;
   Pictures pictures_;
-  std::deque<ScopedHandle> started_;  // the latest few: callers wait on them at any time later
+  // The latest few of each kind: callers wait on them at any time later.
+  std::map<WindowShow, std::deque<ScopedHandle>> started_;
 };
 
 }  // namespace platform::win32
