@@ -38,8 +38,8 @@ class Events {
   // True once Quit was called or the process has ended: whoever loops around Pump leaves its loop.
   virtual bool HasQuit() = 0;
 
-  // Waits up to `milliseconds` for the end of a process without pumping. kFailed at once for a bad
-  // handle.
+  // Waits up to `milliseconds` for the end of a process without pumping. kNoProcess never ends: the
+  // time just passes. kFailed at once for any other bad handle.
   virtual WaitResult WaitForProcess(ProcessHandle process, std::uint32_t milliseconds) = 0;
 };
 

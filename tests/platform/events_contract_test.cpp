@@ -212,9 +212,14 @@ TEST_F(EventsContract, GivesUpWaitingAfterTheTime) {
 
 TEST_F(EventsContract, FailsAtOnceForAHandleOfNothing) {
   constexpr std::uint32_t kLong = 600000;
-  EXPECT_EQ(events().WaitForProcess(platform::kNoProcess, kLong), WaitResult::kFailed);
   EXPECT_EQ(events().WaitForProcess(0, kLong), WaitResult::kFailed);
   EXPECT_EQ(events().WaitForProcess(0x7FFFFFF0, kLong), WaitResult::kFailed);
+}
+
+TEST_F(EventsContract, LetsTheTimePassWithoutAProcess) {
+  const auto before = ports().clock.Milliseconds();
+  EXPECT_EQ(events().WaitForProcess(platform::kNoProcess, kPeriod), WaitResult::kTimedOut);
+  EXPECT_GE(ports().clock.Milliseconds() - before, kPeriod);
 }
 
 }  // namespace

@@ -134,7 +134,7 @@ TEST_F(MissingClientTest, EndsWithTheProcess) {
   machine_.AtAgent(10'000, [this] { platform().processes.ExitSelf(0); });
   EXPECT_EQ(bridge_.RunEngineCommandAndWait(" 38"), std::nullopt);
   EXPECT_EQ(machine_.exit_code(), 0u);
-  EXPECT_LT(machine_.now(), 10'100u);
+  EXPECT_LT(machine_.now(), 10'400u);
 }
 
 TEST_F(MissingClientTest, AnswersClicksInsideTheWait) {
@@ -145,8 +145,15 @@ TEST_F(MissingClientTest, AnswersClicksInsideTheWait) {
   machine_.AtAgent(60'000, [this] { platform().events.Quit(); });
   bridge_.RunEngineCommandAndWait(" 38");
   ASSERT_EQ(clicks.size(), 3u);
-  EXPECT_LE(clicks[0], 1003u);
-  EXPECT_LE(clicks[2], 50'003u);
+  EXPECT_LE(clicks[0], 1303u);
+  EXPECT_LE(clicks[2], 50'303u);
+}
+
+TEST_F(MissingClientTest, LooksNoMoreOftenThanForAClient) {
+  machine_.gate().Start();
+  machine_.AtAgent(30'200, [this] { platform().events.Quit(); });
+  bridge_.RunEngineCommandAndWait(" 38");
+  EXPECT_EQ(machine_.gate().Count("events.WaitForProcess"), 100u);
 }
 
 TEST_F(MissingClientTest, IsFreedByAnotherExchangeThatBringsAClient) {
@@ -171,6 +178,18 @@ TEST_F(EngineBridgeTest, WaitsOnTheClientOfAnExchangeThatReplacedItsOwn) {
   EXPECT_EQ(outer, 402.0);
   EXPECT_LT(machine_.now(), 26'000u);
   EXPECT_TRUE(machine_.processes().IsRunning("SorvaneEClsClient.exe"));
+}
+
+TEST_F(EngineBridgeTest, GoesOnWaitingWhenAnotherExchangeFailedToStartItsClient) {
+  engine_.Reply(" 38", {.ret_value = "1", .runs_for = 10'000});
+  machine_.AtAgent(5000, [&] {
+    state_.ClientProgram = "Missing.exe";
+    bridge_.StartEngineCommand(" 20");
+  });
+  machine_.AtAgent(60'000, [this] { platform().events.Quit(); });
+  bridge_.RunEngineCommandAndWait(" 38");
+  EXPECT_EQ(state_.ClientProcess, platform::kNoProcess);
+  EXPECT_GE(machine_.now(), 60'000u);
 }
 
 TEST(EncryptDllInputTest, RaisesEachCodeWithoutATraceForOneThatLeavesTheRange) {

@@ -100,9 +100,9 @@ bool MemoryEvents::HasQuit() {
 WaitResult MemoryEvents::WaitForProcess(ProcessHandle process, std::uint32_t milliseconds) {
   if (world_.gate.Fails("events.WaitForProcess")) return WaitResult::kFailed;
   const ProcessId id = processes_.OfHandle(process);
-  if (id == 0) return WaitResult::kFailed;
-  const bool ended =
-      world_.timeline.Wait(milliseconds, [this, id] { return !processes_.Find(id)->running; });
+  if (id == 0 && process != kNoProcess) return WaitResult::kFailed;
+  const bool ended = world_.timeline.Wait(
+      milliseconds, [this, id] { return id != 0 && !processes_.Find(id)->running; });
   return ended ? WaitResult::kSignalled : WaitResult::kTimedOut;
 }
 

@@ -89,8 +89,7 @@ void Events::Quit() {
 }
 
 WaitResult Events::WaitForProcess(ProcessHandle process, std::uint32_t milliseconds) {
-  // The system takes this number for the handle of the own process.
-  if (process == kNoProcess) return WaitResult::kFailed;
+  // The system takes kNoProcess for the handle of the own process, which does not end meanwhile.
   switch (WaitForSingleObject(reinterpret_cast<HANDLE>(process), milliseconds)) {
     case WAIT_OBJECT_0:
       return WaitResult::kSignalled;
