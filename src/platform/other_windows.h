@@ -17,7 +17,8 @@ class OtherWindows {
   // `class_name` is empty. Returns kNoWindow when there is none.
   virtual WindowId Find(std::string_view class_name, std::string_view title) = 0;
 
-  // Sends a message and waits for its answer.
+  // Sends a message and waits for its answer; 0 when the window is gone or its program does not
+  // respond any more.
   virtual std::intptr_t Send(WindowId window, std::uint32_t message, std::uintptr_t wparam,
                              std::intptr_t lparam) = 0;
 

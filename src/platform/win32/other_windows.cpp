@@ -7,6 +7,9 @@
 namespace platform::win32 {
 namespace {
 
+// How long a program may be busy with a message before it is asked whether it responds at all.
+constexpr UINT kPatience = 30000;  // milliseconds
+
 HWND ToHandle(WindowId window) {
   return reinterpret_cast<HWND>(window);
 }
@@ -24,7 +27,12 @@ std::intptr_t OtherWindows::Send(WindowId window, std::uint32_t message, std::ui
                                  std::intptr_t lparam) {
   // Window 0 would mean a call to nobody, and 0xFFFF every window there is.
   if (!IsWindow(ToHandle(window))) return 0;
-  return SendMessageA(ToHandle(window), message, wparam, lparam);
+  // A hung program would hold this one for ever; one that asks its user something may take its
+  // time.
+  constexpr UINT kUnlessHung = SMTO_ABORTIFHUNG | SMTO_NOTIMEOUTIFNOTHUNG;
+  DWORD_PTR answer = 0;
+  SendMessageTimeoutA(ToHandle(window), message, wparam, lparam, kUnlessHung, kPatience, &answer);
+  return static_cast<std::intptr_t>(answer);
 }
 
 bool OtherWindows::Post(WindowId window, std::uint32_t message, std::uintptr_t wparam,
