@@ -12,6 +12,9 @@ using platform::ProcessEntry;
 using platform::ProcessId;
 
 constexpr std::size_t kMostProcesses = 1024;
+// More than any machine runs: a background process that was not seen would be started once more by
+// every tick.
+constexpr std::size_t kAllProcesses = 16384;
 constexpr std::uint32_t kTerminate = 1;
 // Ending and asking in one right, so that a process which was found is also ended.
 constexpr std::uint32_t kQueryAndTerminate = 1041;
@@ -76,7 +79,7 @@ void ProcessList::KillPluginProcesses() {
     return true;
   };
   if (nt) {
-    machine_.processes.WalkModulePaths(kMostProcesses, collect);
+    machine_.processes.WalkModulePaths(kAllProcesses, collect);
   } else {
     machine_.processes.WalkSnapshot(collect);
   }
@@ -96,7 +99,7 @@ std::optional<ProcessId> ProcessList::FindLowerCase(std::string_view name) {
     return !found.has_value();
   };
   if (machine_.processes.Version().family == platform::SystemFamily::kNt) {
-    machine_.processes.WalkModulePaths(kMostProcesses, compare);
+    machine_.processes.WalkModulePaths(kAllProcesses, compare);
   } else {
     machine_.processes.WalkSnapshot(compare);
   }

@@ -67,6 +67,20 @@ TEST_F(ProcessListTest, StopsAfterTheFirstThousandAndTwentyFour) {
   EXPECT_TRUE(list.IsProcessRunning("other.exe", WhenFound::kLeave));
 }
 
+TEST_F(ProcessListTest, SeesTheBackgroundProcessAndThePluginBehindFiveThousandOthers) {
+  for (int i = 0; i < 5000; ++i) Start("C:\\Other\\other.exe");
+  Start("C:\\Sorvane\\SorvaneEBackground.exe");
+  const ProcessId plugin = Start("C:\\Sorvane\\SorvanePlugin.exe");
+  EXPECT_TRUE(list.IsBackgroundRunning());
+  list.KillPluginProcesses();
+  EXPECT_FALSE(Runs(plugin));
+}
+
+TEST_F(ProcessListTest, ComparesOnlyWhatStandsBehindTheLastSlashOfEitherKind) {
+  Start("C:/Sorvane\\bin/SorvaneEBackground.exe");
+  EXPECT_TRUE(list.IsBackgroundRunning());
+}
+
 TEST_F(ProcessListTest, RemembersTheIdOfTheBackgroundProcessOnBothFamilies) {
   const ProcessId id = Start("C:\\Sorvane\\sorvaneebackground.EXE");
   EXPECT_TRUE(list.IsBackgroundRunning());
@@ -89,6 +103,19 @@ TEST_F(ProcessListTest, KillsByNameTheFirstWhateverItsCase) {
   list.KillProcessByName("SorvaneEClassic.exe");
   EXPECT_FALSE(Runs(first));
   EXPECT_TRUE(Runs(second));
+}
+
+TEST_F(ProcessListTest, KillsByNameNoneWhoseNameIsOnlyAlike) {
+  for (const bool old_family : {false, true}) {
+    if (old_family) UseOldFamily();
+    const ProcessId longer = Start("C:\\Sorvane\\MySorvaneEClassic.exe");
+    const ProcessId behind = Start("C:\\Sorvane\\SorvaneEClassic.exe2");
+    const ProcessId exact = Start("C:\\Sorvane\\sorvaneeclassic.exe");
+    list.KillProcessByName("SorvaneEClassic.exe");
+    EXPECT_TRUE(Runs(longer));
+    EXPECT_TRUE(Runs(behind));
+    EXPECT_FALSE(Runs(exact));
+  }
 }
 
 TEST_F(ProcessListTest, KillsAllExesOfExactlyThatName) {
