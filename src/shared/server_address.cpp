@@ -44,11 +44,12 @@ void FallBackAfterAttempt(platform::Platform& machine, AgentState& state, int at
 }
 
 void FollowRedirection(platform::Platform& machine, AgentState& state) {
-  const auto text = machine.files.Read(InUserFolder(state, files::kDllOutput1), kTextFileLimit);
-  if (!text) return;
+  const std::string path = InUserFolder(state, files::kDllOutput1);
+  if (!machine.files.Exists(path)) return;
+  const std::string text = machine.files.Read(path, kTextFileLimit).value_or("");
   // A line that is not there leaves its part of the pair as it is.
-  if (const auto port = FindLine(*text, 0)) state.ServerPort = *port;
-  if (const auto address = FindLine(*text, 1)) state.ServerAddress = *address;
+  if (const auto port = FindLine(text, 0)) state.ServerPort = *port;
+  if (const auto address = FindLine(text, 1)) state.ServerAddress = *address;
   WriteServerKeys(machine, state);
 }
 

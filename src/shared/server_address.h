@@ -23,8 +23,8 @@ void WriteServerKeys(platform::Platform& machine, AgentState& state);
 void FallBackAfterAttempt(platform::Platform& machine, AgentState& state, int attempt);
 
 // Takes the pair from DLLOutput1.txt of UserFolder, where the engine was sent to another server:
-// port in the first line, address in the second, then WriteServerKeys. A line that is not there
-// leaves its part of the pair as it is; without the file nothing changes.
+// port in the first line, address in the second, then WriteServerKeys. A line that is not there or
+// cannot be read leaves its part of the pair as it is; without the file nothing changes.
 void FollowRedirection(platform::Platform& machine, AgentState& state);
 
 // The port of a test installation on this machine.

@@ -26,6 +26,16 @@ class ConnectionCheckTest : public InstalledProduct {
                               machine_.files().Put(InAnnasFolder("DLLOutput1.txt"), text);
                             }});
   }
+  // Fallbacks that were made before each run with this argument.
+  std::vector<std::size_t> FallbacksBefore(std::string_view argument) {
+    std::vector<std::size_t> before;
+    std::size_t so_far = 0;
+    for (const auto& entry : machine_.journal().entries()) {
+      if (entry.text.find("IPAddres=") != std::string::npos) ++so_far;
+      if (entry.category == "shell" && entry.text.ends_with(argument)) before.push_back(so_far);
+    }
+    return before;
+  }
   std::size_t Fallbacks() { return machine_.journal().Count("profile", "IPAddres="); }
 
   ScriptedEngine engine_{machine_, kAnnasProfile};
@@ -53,6 +63,24 @@ TEST_F(ConnectionCheckTest, FallsBackTwiceInTenAttemptsAndGoesOnToTheAccount) {
   EXPECT_EQ(engine_.CountRuns(kServer), 10u);
   EXPECT_EQ(Fallbacks(), 2u);
   EXPECT_EQ(Pair(), "192.0.2.10:11905");
+}
+
+TEST_F(ConnectionCheckTest, FallsBackAfterTheFifthAndTheTenthAttempt) {
+  engine_.Reply(kServer, "-416");
+  engine_.Reply(kAccount, "-416");
+  EXPECT_EQ(Validate(), 0);
+  EXPECT_EQ(FallbacksBefore(kServer), (std::vector<std::size_t>{0, 0, 0, 0, 0, 1, 1, 1, 1, 1}));
+  EXPECT_EQ(FallbacksBefore(kAccount), (std::vector<std::size_t>{2, 2, 2, 2, 2, 3, 3, 3, 3, 3}));
+}
+
+TEST_F(ConnectionCheckTest, IsGoodWhenTheServerAnswersBehindTenFailures) {
+  for (int attempt = 0; attempt < 10; ++attempt) engine_.Reply(kServer, "-416");
+  engine_.Reply(kServer, "402");
+  engine_.Reply(kAccount, "402");
+  EXPECT_EQ(Validate(), 1);
+  EXPECT_EQ(engine_.CountRuns(kServer), 10u);
+  EXPECT_EQ(Validate(), 1);
+  EXPECT_EQ(engine_.CountRuns(kServer), 11u);
 }
 
 TEST_F(ConnectionCheckTest, TriesAgainForEachResultThatMeansUnreachable) {
@@ -118,11 +146,37 @@ TEST_F(ConnectionCheckTest, ChangesOnlyThePortForARedirectionOfOneLineAndWritesB
   EXPECT_EQ(Ini(kAnnasProfile, "Tolvex", "OutPort"), "8443");
 }
 
-TEST_F(ConnectionCheckTest, KeepsThePairForAnEmptyRedirection) {
+TEST_F(ConnectionCheckTest, KeepsThePairForAnEmptyRedirectionAndWritesIt) {
   RedirectTo("");
   engine_.Reply(kAccount, "402");
   EXPECT_EQ(Validate(), 1);
   EXPECT_EQ(Pair(), "192.0.2.99:4000");
+  EXPECT_EQ(Ini(kAnnasProfile, "Tolvex", "IPAddres"), "192.0.2.99");
+}
+
+TEST_F(ConnectionCheckTest, KeepsThePairForARedirectionThatCannotBeReadAndWritesIt) {
+  engine_.Reply(kServer, {.ret_value = "402", .also = [this] {
+                            machine_.files().Put(InAnnasFolder("DLLOutput1.txt"), "1\r\n2\r\n");
+                            machine_.LockFile(InAnnasFolder("DLLOutput1.txt"));
+                          }});
+  engine_.Reply(kAccount, "402");
+  EXPECT_EQ(Validate(), 1);
+  EXPECT_EQ(Pair(), "192.0.2.99:4000");
+  EXPECT_EQ(Ini(kAnnasProfile, "Tolvex", "OutPort"), "4000");
+}
+
+TEST_F(ConnectionCheckTest, TakesAnEmptyLineOfARedirectionAsItStands) {
+  RedirectTo("\r\n192.0.2.77\r\n");
+  engine_.Reply(kAccount, "402");
+  EXPECT_EQ(Validate(), 1);
+  EXPECT_EQ(Pair(), "192.0.2.77:");
+}
+
+TEST_F(ConnectionCheckTest, WritesNoServerKeyWithoutARedirection) {
+  engine_.Reply(kServer, "402");
+  engine_.Reply(kAccount, "402");
+  EXPECT_EQ(Validate(), 1);
+  EXPECT_EQ(Ini(kAnnasProfile, "Tolvex", "IPAddres"), "");
 }
 
 TEST_F(ConnectionCheckTest, DoesNotFollowTheRedirectionOfAnEarlierLogin) {
@@ -153,9 +207,11 @@ TEST_F(ConnectionCheckTest, TriesTheAccountAgainOnlyForAnUnreachableServer) {
 
 TEST_F(ConnectionCheckTest, MakesAndWritesRandomDigitsForALogin) {
   machine_.random().Script({0.0, 0.0, 0.0, 0.0, 0.5});
-  engine_.Reply(kServer, "402");
+  std::string random_of_the_first_run;
+  engine_.Reply(kServer, {.ret_value = "402", .also = [&] { random_of_the_first_run = Random(); }});
   engine_.Reply(kAccount, "402");
   Validate();
+  EXPECT_EQ(random_of_the_first_run, Shifted("1111128"));
   EXPECT_EQ(Random(), Shifted("1111128"));
   EXPECT_EQ(state_.ClientRandom, "1111128");
 }

@@ -89,6 +89,30 @@ TEST_F(DailySyncTest, AsksForTheUserTypeThenStartsTheSyncWithoutWaiting) {
   EXPECT_TRUE(machine_.processes().IsRunning("SorvaneEClsClient.exe"));
 }
 
+TEST_F(DailySyncTest, WaitsAMomentBetweenTheUserTypeAndTheSync) {
+  std::uint64_t told = 0;
+  engine_.Reply(kUserType, {.ret_value = "402", .also = [&] { told = machine_.now(); }});
+  PutNext("1", "3", "2024");
+  Sync();
+  EXPECT_EQ(machine_.now() - told, 200u);
+}
+
+TEST_F(DailySyncTest, StoresTheNextDayBeforeItAsksForTheUserType) {
+  std::string next;
+  engine_.Reply(kUserType, {.ret_value = "402", .also = [&] { next = Next(); }});
+  PutNext("1", "3", "2024");
+  Sync();
+  EXPECT_EQ(next, "2/3/2024");
+}
+
+TEST_F(DailySyncTest, StartsTheSyncAlsoWhenTheUserTypeStaysUnknown) {
+  engine_.Reply(kUserType, "-416");
+  PutNext("1", "3", "2024");
+  Sync();
+  EXPECT_EQ(engine_.CountRuns(kUserType), 10u);
+  EXPECT_EQ(engine_.CountRuns(kSync), 1u);
+}
+
 TEST_F(DailySyncTest, IsLateByAsLongAsTheClockWasSetBack) {
   engine_.Reply(kUserType, "402");
   PutNext("1", "3", "2024");
@@ -103,6 +127,15 @@ TEST_F(DailySyncTest, IsLateByAsLongAsTheClockWasSetBack) {
 class UserTypeTest : public DailySyncTest {
  protected:
   void Check() { CheckUserType(platform(), state_); }
+  std::vector<std::size_t> FallbacksBeforeEachRun() {
+    std::vector<std::size_t> before;
+    std::size_t so_far = 0;
+    for (const auto& entry : machine_.journal().entries()) {
+      if (entry.text.find("IPAddres=") != std::string::npos) ++so_far;
+      if (entry.category == "shell") before.push_back(so_far);
+    }
+    return before;
+  }
   std::string ShowWelcome() { return Ini(kUserNameIniPath, "Tolvex", "ShowWelcome"); }
 };
 
@@ -126,6 +159,7 @@ TEST_F(UserTypeTest, FallsBackToTheSecondaryServerEveryFifthAttempt) {
   EXPECT_EQ(engine_.CountRuns(kUserType), 10u);
   EXPECT_EQ(machine_.journal().Count("profile", "IPAddres=192.0.2.20"), 2u);
   EXPECT_EQ(machine_.journal().Count("profile", "OutPort=11905"), 2u);
+  EXPECT_EQ(FallbacksBeforeEachRun(), (std::vector<std::size_t>{0, 0, 0, 0, 0, 1, 1, 1, 1, 1}));
   EXPECT_EQ(state_.ServerAddress, "192.0.2.20");
   EXPECT_TRUE(TraceOfAnna().ends_with("apiremoteretval for CMD LINE arg 40 : -416\r\n"));
 }
