@@ -11,6 +11,7 @@
 #include "shared/process_list.h"
 #include "shared/profile_store.h"
 #include "shared/system_version.h"
+#include "shared/trace.h"
 
 namespace agent {
 namespace {
@@ -47,7 +48,12 @@ void Housekeeping::HousekeepingTick() {
 }
 
 std::string Housekeeping::GetLoginName() {
-  return machine_.processes.CurrentLoginName().name;
+  const auto login = machine_.processes.CurrentLoginName();
+  if (login.error != 0) {
+    shared::Trace(machine_, state_)
+        .WriteError("A system call returned an error code of " + std::to_string(login.error));
+  }
+  return login.name;
 }
 
 void Housekeeping::EndIdleSetSizeHelper() {

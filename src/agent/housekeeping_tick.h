@@ -20,7 +20,8 @@ class Housekeeping {
   // One tick. Ends the process for the system account when a logoff is marked.
   void HousekeepingTick();
 
-  // The Windows account of this process; "" when the system does not tell.
+  // The Windows account of this process; "" when the system does not tell, which is traced with its
+  // error's number.
   std::string GetLoginName();
 
  private:

@@ -9,6 +9,7 @@
 #include "shared/keys.h"
 #include "status/progress_keys.h"
 #include "tests/agent/effects.h"
+#include "tests/agent/housekeeping_case.h"
 #include "tests/agent/installed_agent.h"
 
 namespace agent {
@@ -18,63 +19,11 @@ using platform::ServiceState;
 using platform::SystemFamily;
 using ::testing::Contains;
 using testing::Effects;
+using testing::HousekeepingTest;
 using testing::InstalledAgent;
 using ::testing::IsEmpty;
 using ::testing::Not;
 namespace keys = shared::keys;
-
-constexpr platform::LocalTime kNow = {2024, 3, 1, 10, 0, 0};
-
-class HousekeepingTest : public ::testing::Test {
- protected:
-  void Start(const platform::SystemVersion& version = {SystemFamily::kNt, 6, 1}) {
-    InstallClient();
-    agent_.machine.processes().SetVersion(version);
-    agent_.machine.files().Put(agent_.Path("SorvaneEBackground.exe"), "");
-    ASSERT_TRUE(agent_.Start());
-    agent_.StopTimers();
-    agent_.machine.SetClock(kNow);
-    SetNextDay("2024", "3", "2");
-    agent_.state().ServiceStartTries = 0;
-    agent_.machine.journal().Clear();
-  }
-  void SetNextDay(std::string_view year, std::string_view month, std::string_view day) {
-    agent_.SetShared(keys::kTrayIconYear, year);
-    agent_.SetShared(keys::kTrayIconMonth, month);
-    agent_.SetShared(keys::kTrayIconDay, day);
-  }
-  std::string NextDay() {
-    return agent_.Shared(keys::kTrayIconYear) + "-" + agent_.Shared(keys::kTrayIconMonth) + "-" +
-           agent_.Shared(keys::kTrayIconDay) + " " + agent_.Shared(keys::kTrayIconHour) + ":" +
-           agent_.Shared(keys::kTrayIconMinute);
-  }
-  Housekeeping Make() {
-    return Housekeeping(agent_.machine.platform(), agent_.state(),
-                        agent_.agent().form().commands());
-  }
-  void Tick(int times = 1) {
-    for (int i = 0; i < times; ++i) Make().HousekeepingTick();
-  }
-  bool IsDue() {
-    return DailyStep(agent_.machine.platform(), agent_.state(), agent_.agent().form().commands())
-        .IsDailyDue();
-  }
-  // A client that answers every question with success.
-  void InstallClient() {
-    agent_.machine.files().Put(agent_.Path("SorvaneEClsClient.exe"), "");
-    agent_.machine.processes().Install(
-        "SorvaneEClsClient.exe", [this](const platform::memory::Launch& launch) {
-          agent_.SetStatus(status::kRetValue, "402");
-          agent_.machine.processes().After(
-              launch.id, 200, [this, id = launch.id] { agent_.machine.processes().End(id); });
-        });
-  }
-  std::size_t ServiceStarts() {
-    return agent_.machine.journal().Count("shell", "StartSorvaneEService.bat");
-  }
-
-  InstalledAgent agent_;
-};
 
 TEST_F(HousekeepingTest, EndsTheSetSizeHelperOnlyWithoutTheMainProgram) {
   auto& processes = agent_.machine.processes();
@@ -124,19 +73,6 @@ TEST_F(HousekeepingTest, BringsTheBackgroundProcessBackWithinATick) {
   agent_.machine.KillProcess("SorvaneEBackground.exe");
   Tick();
   EXPECT_TRUE(agent_.machine.processes().IsRunning("SorvaneEBackground.exe"));
-}
-
-TEST_F(HousekeepingTest, ABackgroundProcessKilledEachMinuteOfAWeekIsAlwaysBack) {
-  agent_.machine.files().Put(agent_.Path("SorvaneEBackground.exe"), "");
-  InstallClient();
-  ASSERT_TRUE(agent_.Start());
-  agent_.machine.journal().Keep(false);
-  for (int minute = 0; minute < 7 * 24 * 60; ++minute) {
-    agent_.machine.KillProcess("SorvaneEBackground.exe");
-    agent_.machine.Run(60000);
-    ASSERT_TRUE(agent_.machine.processes().IsRunning("SorvaneEBackground.exe")) << minute;
-  }
-  EXPECT_EQ(agent_.Shared(keys::kStandard), "1");
 }
 
 TEST_F(HousekeepingTest, OnVistaTheServiceIsLookedAtEveryTenthTick) {
@@ -219,6 +155,9 @@ TEST_F(HousekeepingTest, AClockSetBackWaitsForTheStoredDay) {
   agent_.machine.journal().Clear();
   Tick();
   EXPECT_EQ(NextDay(), "2024-3-2 10:0");
+  agent_.machine.SetClock({2024, 3, 2, 0, 0, 0});
+  Tick();
+  EXPECT_EQ(NextDay(), "2024-3-3 0:0");
 }
 
 TEST_F(HousekeepingTest, TheDailyStepNeedsTrayToBeZeroOrEmpty) {
