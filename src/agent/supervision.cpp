@@ -147,9 +147,13 @@ void Supervision::RunServiceBatch(std::string_view word) {
 
 void Supervision::StartServiceElevated() {
   state_.StartHelperLaunched = true;
-  const std::string launcher = shared::InInstallFolder(state_, state_.executables.drive_launcher);
-  const platform::StartResult result =
-      ShellRunAs(state_.InstallFolder, launcher, kElevatedArgument);
+  const std::string& name = state_.executables.drive_launcher;
+  platform::StartResult result;
+  // The partner edition has none: what is left of the path would open the folder.
+  if (!name.empty()) {
+    const std::string launcher = shared::InInstallFolder(state_, name);
+    result = ShellRunAs(state_.InstallFolder, launcher, kElevatedArgument);
+  }
   shared::Trace trace(machine_, state_);
   trace.WriteInformation("Launch Handle : " + std::to_string(result.handle));
   trace.WriteInformation("Error 1 : " + std::to_string(result.error) + "  " +

@@ -92,6 +92,54 @@ TEST_F(SupervisionTest, ActsOnTheServiceByItsState) {
   }
 }
 
+TEST_F(SupervisionTest, WaitsTenSecondsBetweenStopAndStart) {
+  Start();
+  for (const ServiceState state : {ServiceState::kStopPending, ServiceState::kPaused}) {
+    SetService(state);
+    agent_.machine.journal().Clear();
+    Make().EnsureService();
+    const auto times = [this](std::string_view word) {
+      std::vector<std::uint64_t> at;
+      for (const auto& entry : agent_.machine.journal().entries()) {
+        if (entry.category == "shell" && entry.text.find(word) != std::string::npos) {
+          at.push_back(entry.time);
+        }
+      }
+      return at;
+    };
+    ASSERT_EQ(times("\\StopSorvaneEService.bat").size(), 1u);
+    ASSERT_EQ(times("\\StartSorvaneEService.bat").size(), 1u);
+    EXPECT_EQ(times("\\StartSorvaneEService.bat")[0] - times("\\StopSorvaneEService.bat")[0],
+              10000u);
+  }
+}
+
+TEST_F(SupervisionTest, ARefusedElevatedStartIsTracedAndNotAskedForAgain) {
+  Start(kSeven);
+  SetService(ServiceState::kStopped);
+  agent_.machine.shell().RefuseElevation(true);
+  Make().EnsureService();
+  EXPECT_THAT(Effects(agent_), Contains("trace Launch Handle : -1"));
+  EXPECT_THAT(Effects(agent_), Contains("trace Error 1 : 1223  Cancelled."));
+  EXPECT_EQ(agent_.state().ServiceStartTries, 1);
+  agent_.machine.journal().Clear();
+  Make().EnsureService();
+  EXPECT_THAT(Effects(agent_), Not(Contains(HasSubstr("Launch"))));
+  EXPECT_EQ(agent_.state().ServiceStartTries, 2);
+}
+
+TEST_F(SupervisionTest, OnVistaThePartnerHasNoLauncherToStart) {
+  agent_.MakePartner();
+  agent_.machine.files().Put(agent_.Path("StartTolvexProfessionalService.bat"), "");
+  Start(kSeven);
+  agent_.machine.services().Set("TVPService", ServiceState::kStopped);
+  Make().EnsureService();
+  EXPECT_THAT(Effects(agent_),
+              ElementsAre("trace SorvaneE Service is stopped.So starting the service.",
+                          "open C:\\Sorvane\\StartTolvexProfessionalService.bat",
+                          "trace Launch Handle : -1", HasSubstr("trace Error 1 : 0  ")));
+}
+
 TEST_F(SupervisionTest, OnVistaAsksOnceForTheElevatedStart) {
   Start(kSeven);
   SetService(ServiceState::kStopped);
