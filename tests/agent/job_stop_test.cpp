@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 
 #include "shared/keys.h"
@@ -62,6 +63,80 @@ TEST_F(JobStopTest, AJobThatHasEndedMeanwhileIsStillAskedAndTheItemGoes) {
                           "trace Stopped backup from mnuStop Tray status : "));
   EXPECT_FALSE(Item().Enabled());
   EXPECT_FALSE(Item().Visible());
+}
+
+struct FirstLineRow {
+  const char* bytes;
+  bool ends;
+};
+
+TEST_F(JobStopTest, EveryFirstLineButAZeroIsOfAJob) {
+  constexpr FirstLineRow kRows[] = {
+      {"0\r\n1\r\n", false}, {"0", false},     {"0\n", false},   {"1\r\n", true},
+      {"8\r\n", true},       {"00\r\n", true}, {" 0\r\n", true}, {"x\r\n", true},
+      {"\r\n0\r\n", true},   {"", true},       {"0 \r\n", true},
+  };
+  Start();
+  for (const FirstLineRow& row : kRows) {
+    agent_.PutUserFile(status::kScheduleDataFile, row.bytes);
+    agent_.SetStatus(status::kStatus, "");
+    const auto client = agent_.machine.processes().Start("C:\\Sorvane\\SorvaneEClsClient.exe");
+    Stop();
+    EXPECT_EQ(!agent_.machine.processes().Find(client)->running, row.ends) << row.bytes;
+    EXPECT_EQ(agent_.Status(status::kStatus), row.ends ? "5" : "") << row.bytes;
+    agent_.machine.processes().End(client);
+  }
+}
+
+TEST_F(JobStopTest, AScheduleThatCannotBeReadDoesNotKeepTheJobAlive) {
+  const auto client = agent_.machine.processes().Start("C:\\Sorvane\\SorvaneEClsClient.exe");
+  Schedule("0");
+  agent_.machine.LockFile(agent_.UserPath(status::kScheduleDataFile));
+  Start();
+  Stop();
+  EXPECT_FALSE(agent_.machine.processes().Find(client)->running);
+  EXPECT_EQ(agent_.Status(status::kDllStatus), "3");
+  EXPECT_TRUE(Item().Visible());
+}
+
+TEST_F(JobStopTest, LetsEventsRunWithTheRequestWrittenAndThenWaits) {
+  Schedule("0");
+  SetJob("2");
+  Start();
+  const auto before = agent_.machine.now();
+  std::uint64_t pumped = 0;
+  std::string paused;
+  // Reading the user gives way, too: the request is not there yet then.
+  std::function<void()> look = [&] {
+    if (agent_.Status(status::kCancel) != "1") return agent_.machine.WhenPumped(look);
+    pumped = agent_.machine.now();
+    paused = agent_.Status(status::kPaused);
+  };
+  agent_.SetStatus(status::kPaused, "1");
+  agent_.machine.WhenPumped(look);
+  Stop();
+  EXPECT_EQ(paused, "0");
+  EXPECT_EQ(pumped, before);
+  EXPECT_EQ(agent_.machine.now(), before + 1000);
+}
+
+TEST_F(JobStopTest, StopsTheJobOfTheUserOfThisMoment) {
+  Schedule("1");
+  Start();
+  agent_.ForgetUser();
+  Stop();
+  EXPECT_EQ(agent_.state().CurrentUser, "");
+  EXPECT_EQ(agent_.Status(status::kStatus), "");
+}
+
+TEST_F(JobStopTest, AClientThatWillNotEndIsNotTriedAgain) {
+  const auto client = agent_.machine.processes().Start("C:\\Sorvane\\SorvaneEClsClient.exe");
+  agent_.machine.processes().SetTerminable(client, false);
+  Schedule("1");
+  Start();
+  Stop();
+  EXPECT_EQ(agent_.machine.journal().Count("process", "terminate"), 1u);
+  EXPECT_EQ(agent_.Status(status::kStatus), "5");
 }
 
 TEST_F(JobStopTest, TheNextPopupShowsTheItemAgainByItsState) {
