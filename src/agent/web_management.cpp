@@ -76,6 +76,8 @@ WebManagement::WebManagement(platform::Platform& machine, shared::AgentState& st
       transfer_(machine, state) {}
 
 void WebManagement::WebPlugin_Click() {
+  // A second switch inside the yield of the first would be shown as the first one's end.
+  if (state_.WebSwitchUnderWay) return;
   // 1. Only somebody who is logged in has an account to manage.
   machine_.events.Pump();
   if (!HasUser()) {
@@ -194,7 +196,7 @@ void WebManagement::Alert(std::int16_t error) {
   const WebError* row = FindError(error);
   if (row == nullptr) return;
   alert_.LoginRequired = row->login_required;
-  if (row->logs_out) shared::RegistryStore(machine_, state_).WriteConnectionStatus(0);
+  if (row->logs_out) LogOut();
   alert_.lblInstall.SetText(row->text);
   alert_.OfferErrorReport(row->offers_report);
   if (row->in_tip) tray_.SetTrayIcon(state_.ProductName + " - " + std::string(row->text));
@@ -202,6 +204,12 @@ void WebManagement::Alert(std::int16_t error) {
   if (state_.WebRetryCount == 1) return;
   state_.WebRetryCount = 1;
   alert_.Show();
+}
+
+// Only the word: what runs for the user goes on.
+void WebManagement::LogOut() {
+  state_.LoggedOutMeanwhile = true;
+  shared::RegistryStore(machine_, state_).WriteConnectionStatus(0);
 }
 
 void WebManagement::CheckForError() {

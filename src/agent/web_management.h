@@ -59,6 +59,7 @@ class WebManagement {
   void StartTimer();
   void Tell(const char* message);
   void Alert(std::int16_t error);
+  void LogOut();
 
   platform::Platform& machine_;
   shared::AgentState& state_;

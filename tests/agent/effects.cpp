@@ -1,7 +1,11 @@
 #include "tests/agent/effects.h"
 
+#include <algorithm>
 #include <cctype>
 #include <string>
+
+#include "shared/character_shift.h"
+#include "shared/keys.h"
 
 namespace agent::testing {
 namespace {
@@ -11,6 +15,14 @@ using platform::memory::JournalEntry;
 constexpr std::size_t kStampLength = 19;  // "mm-dd-yyyy HH:mm:ss"
 constexpr std::string_view kTrace = "TrayTraceFile.txt ";
 constexpr std::string_view kQuestion = "  Label1 \"";
+constexpr std::string_view kBox = "frmGeneralMessage";
+
+// Keys that are kept with name and value shifted.
+constexpr std::string_view kShiftedKeys[] = {
+    shared::keys::kServerIp,        shared::keys::kPort,
+    shared::keys::kRandom,          shared::keys::kPassword,
+    shared::keys::kScheduleDisable,
+};
 
 std::string Behind(std::string_view text, std::string_view mark) {
   const std::size_t at = text.rfind(mark);
@@ -37,11 +49,36 @@ std::string ShortTrace(std::string_view text) {
   return "trace " + line;
 }
 
+std::string Unshifted(std::string_view text) {
+  return shared::ShiftCharacters(text, -shared::kProfileShift).text;
+}
+
+// "key=value" in plain words.
+std::string ShortPair(std::string_view pair) {
+  const std::size_t equals = pair.find('=');
+  const std::string key = Unshifted(pair.substr(0, equals));
+  if (std::ranges::find(kShiftedKeys, key) == std::end(kShiftedKeys)) return std::string(pair);
+  return key + "=" + Unshifted(pair.substr(equals + 1));
+}
+
 std::string ShortProfile(std::string_view text) {
   const std::size_t open = text.find('[');
   const std::size_t close = text.find(']', open);
   return "write " + std::string(text.substr(open + 1, close - open - 1)) + "." +
-         std::string(text.substr(close + 2));
+         ShortPair(text.substr(close + 2));
+}
+
+// Questions, and windows that come and go; "" for all else.
+std::string ShortForm(std::string_view text) {
+  if (text.starts_with(kQuestion)) {
+    const std::size_t length = text.size() - kQuestion.size() - 1;
+    return "ask " + std::string(text.substr(kQuestion.size(), length));
+  }
+  const bool comes = text.starts_with("show ");
+  if ((!comes && !text.starts_with("unload ")) || text.find(kBox) != std::string_view::npos) {
+    return "";
+  }
+  return std::string(comes ? text.substr(0, text.find(" \"")) : text);
 }
 
 // "" for an entry that procedures are not compared by.
@@ -62,11 +99,7 @@ std::string Short(const JournalEntry& entry) {
     return begins("terminate ") ? "end " + Behind(text, "terminate ") : "";
   }
   if (entry.category == "icon") return begins("tip") ? entry.text : "";
-  if (entry.category == "form") {
-    if (!begins(kQuestion)) return "";
-    const std::size_t length = text.size() - kQuestion.size() - 1;
-    return "ask " + std::string(text.substr(kQuestion.size(), length));
-  }
+  if (entry.category == "form") return ShortForm(text);
   if (entry.category == "shell" || entry.category == "library" || entry.category == "window") {
     return entry.text;
   }

@@ -10,7 +10,7 @@
 #include "shared/keys.h"
 #include "status/progress_keys.h"
 #include "tests/agent/effects.h"
-#include "tests/agent/installed_agent.h"
+#include "tests/agent/session_fixture.h"
 
 namespace agent {
 namespace {
@@ -18,116 +18,17 @@ namespace {
 using ::testing::Contains;
 using testing::Effects;
 using ::testing::ElementsAre;
-using testing::InstalledAgent;
 using ::testing::Not;
 namespace files = shared::files;
 namespace keys = shared::keys;
 
-constexpr std::string_view kQuestion = "ask Are you sure you want to logout from Sorvane ?";
-
-class SessionTest : public ::testing::Test {
- protected:
-  SessionTest() {
-    agent_.machine.libraries().PutFunction(agent_.Path("ShellHlpr.dll"), "SendMsgToApp",
-                                           [](std::int32_t) { return 0; });
-    agent_.machine.libraries().PutFunction(agent_.Path("SorvaneERealTime.dll"), "PostCDPStatusMsg",
-                                           [](std::int32_t) { return 0; });
-    agent_.SetShared(keys::kRealTimeBackup, "1");
-  }
-  void Start() {
-    ASSERT_TRUE(agent_.Start());
-    agent_.StopTimers();
-    agent_.agent().form().commands().SetTrayIcon("before");
-    agent_.machine.journal().Clear();
-  }
-  platform::ProcessId StartProgram(std::string_view name) {
-    return agent_.machine.processes().Start(agent_.Path(name));
-  }
-  void OpenWindow(std::string_view title) {
-    platform::memory::ForeignWindow window;
-    window.title = title;
-    agent_.machine.windows().Add(window);
-  }
-  bool Runs(platform::ProcessId id) { return agent_.machine.processes().Find(id)->running; }
-  void LogOutByMenu() {
-    agent_.host.AnswerWith("Continue");
-    agent_.agent().form().commands().MnuLoginClick();
-  }
-  // A transfer with a backup and a restore client, the first from the context menu.
-  void StartTransfer() {
-    backup_ = StartProgram("SorvaneEClsClient.exe");
-    restore_ = StartProgram("SorvaneEClsClient.exe");
-    agent_.SetStatus(status::kStatus, "1");
-    agent_.SetShifted(keys::kClientPid, std::to_string(backup_));
-    agent_.SetShifted(keys::kClientPidRestore, std::to_string(restore_));
-    agent_.PutUserFile(files::kContextMenuRun);
-  }
-
-  InstalledAgent agent_;
-  platform::ProcessId backup_ = 0;
-  platform::ProcessId restore_ = 0;
-};
-
-TEST_F(SessionTest, MenuLogoutEndsAllInItsOrder) {
-  StartTransfer();
-  StartProgram("SorvaneEClassic.exe");
-  agent_.SetStatus(status::kProgStatus, "2");
-  agent_.PutUserFile(files::kQuotaExceeded);
-  Start();
-  const std::string backup = std::to_string(backup_);
-  const std::string restore = std::to_string(restore_);
-  LogOutByMenu();
-  EXPECT_THAT(
-      Effects(agent_),
-      ElementsAre(
-          std::string(kQuestion), "call ShellHlpr.dll.SendMsgToApp(1034)",
-          "trace Logged out and set Connection Paramter to 0", "registry Status=0", "tip ",
-          "remove QuotaExceeded.txt", "trace IntBackup = 1",
-          "trace Interactive backup running for the user: ann",
-          "trace Context backup with Process ID = " + backup,
-          "trace Terminating the process  " + backup, "end SorvaneEClsClient.exe",
-          "write BackupStatus.Status=0", "trace Interactive Restore with Process ID = " + restore,
-          "trace Terminating the process-Restore  " + restore, "end SorvaneEClsClient.exe",
-          "write BackupStatus.Status=0", "trace Interactive Restore with Process ID = " + restore,
-          "trace Terminating the process-Restore  " + restore, "write BackupStatus.Status=0",
-          "end SorvaneEClassic.exe", "write BackupStatus.Status=5", "write Tolvex.RealTimeBackup=0",
-          "write Tolvex.RTBPausedBySch=0", "call SorvaneERealTime.dll.PostCDPStatusMsg(0)",
-          "write Tolvex.RTBackup=0"));
-}
-
-TEST_F(SessionTest, ExplorerLogoutAsksNothingAndKeepsTheChoiceOfContinuousBackup) {
-  StartProgram("SorvaneEClassic.exe");
-  Start();
-  agent_.agent().form().commands().ExplorerLogout();
-  EXPECT_THAT(Effects(agent_),
-              ElementsAre("trace Explorer logout", "registry Status=0", "tip ",
-                          "trace IntBackup = ", "trace Interactive Restore with Process ID = ",
-                          "trace Terminating the process-Restore  ", "write BackupStatus.Status=0",
-                          "end SorvaneEClassic.exe", "write Tolvex.RTBackup=0",
-                          "write Tolvex.RTBPausedBySch=0",
-                          "call SorvaneERealTime.dll.PostCDPStatusMsg(0)"));
-  EXPECT_EQ(agent_.Shared(keys::kRealTimeBackup), "1");
-}
-
-TEST_F(SessionTest, ReloginEndsAllAndOpensTheMainProgram) {
-  StartProgram("SorvaneEClassic.exe");
-  Start();
-  agent_.agent().form().commands().Relogin();
-  EXPECT_THAT(
-      Effects(agent_),
-      ElementsAre("call ShellHlpr.dll.SendMsgToApp(1034)", "registry Status=0", "tip ",
-                  "trace IntBackup = ", "trace Interactive Restore with Process ID = ",
-                  "trace Terminating the process-Restore  ", "write BackupStatus.Status=0",
-                  "end SorvaneEClassic.exe", "write Tolvex.RealTimeBackup=0",
-                  "write Tolvex.RTBPausedBySch=0", "call SorvaneERealTime.dll.PostCDPStatusMsg(0)",
-                  "write Tolvex.RTBackup=0", "start C:\\Sorvane\\SorvaneEClassic.exe"));
-}
+class SessionTest : public testing::SessionFixture {};
 
 TEST_F(SessionTest, AnswerNoLeavesAllAsItWas) {
   Start();
   agent_.host.AnswerWith("IDCancel");
-  agent_.agent().form().commands().MnuLoginClick();
-  EXPECT_THAT(Effects(agent_), ElementsAre(std::string(kQuestion)));
+  Commands().MnuLoginClick();
+  EXPECT_THAT(Effects(agent_), ElementsAre(std::string(testing::kLogoutQuestion)));
   EXPECT_EQ(agent_.ConnectionStatus(), 1u);
 }
 
@@ -135,7 +36,7 @@ TEST_F(SessionTest, AnItemThatReadsLoginOpensTheMainProgram) {
   Start();
   OpenWindow("Sorvane - Login");
   agent_.Item("MnuLogin").SetCaption("&Login");
-  agent_.agent().form().commands().MnuLoginClick();
+  Commands().MnuLoginClick();
   EXPECT_THAT(Effects(agent_),
               ElementsAre("send Sorvane - Login 16 0 0", "start C:\\Sorvane\\SorvaneEClassic.exe"));
 }
@@ -153,7 +54,7 @@ TEST_F(SessionTest, EachWayClosesTheMainProgramsWindowByItsOwnTitle) {
   OpenWindow("Sorvane Classic (ann)");
   OpenWindow("Sorvane Classic (Version: 5.0 - ann)");
   Start();
-  agent_.agent().form().commands().ExplorerLogout();
+  Commands().ExplorerLogout();
   EXPECT_THAT(Effects(agent_), Contains("send Sorvane Classic (ann) 16 0 0"));
   agent_.machine.journal().Clear();
   LogOutByMenu();
@@ -164,7 +65,7 @@ TEST_F(SessionTest, WithoutATransferOnlyTheRestoreClientIsEnded) {
   StartTransfer();
   agent_.SetStatus(status::kStatus, "0");
   Start();
-  agent_.agent().form().commands().ExplorerLogout();
+  Commands().ExplorerLogout();
   EXPECT_TRUE(Runs(backup_));
   EXPECT_FALSE(Runs(restore_));
   EXPECT_EQ(agent_.Traced("backup with Process ID"), 0u);
@@ -174,7 +75,7 @@ TEST_F(SessionTest, AClientThatDidNotComeFromTheContextMenuIsLeftAlone) {
   StartTransfer();
   agent_.machine.files().Delete(agent_.UserPath(files::kContextMenuRun));
   Start();
-  agent_.agent().form().commands().ExplorerLogout();
+  Commands().ExplorerLogout();
   EXPECT_TRUE(Runs(backup_));
   EXPECT_FALSE(Runs(restore_));
   EXPECT_EQ(agent_.Traced("Interactive backup with Process ID = " + std::to_string(backup_)), 1u);
@@ -193,7 +94,7 @@ TEST_F(SessionTest, AStaleProcessIdEndsNothing) {
   agent_.SetShifted(keys::kClientPidRestore, "no number");
   agent_.PutUserFile(files::kContextMenuRun);
   Start();
-  agent_.agent().form().commands().ExplorerLogout();
+  Commands().ExplorerLogout();
   EXPECT_EQ(agent_.machine.journal().Count("process", "terminate"), 0u);
   EXPECT_EQ(agent_.Status(status::kStatus), "0");
 }
@@ -205,7 +106,7 @@ TEST_F(SessionTest, AProcessIdThatNowBelongsToAnotherProgramIsLeftAlone) {
   agent_.SetShifted(keys::kClientPid, std::to_string(stranger));
   agent_.SetShifted(keys::kClientPidRestore, std::to_string(neighbour));
   Start();
-  agent_.agent().form().commands().ExplorerLogout();
+  Commands().ExplorerLogout();
   EXPECT_TRUE(Runs(stranger));
   EXPECT_TRUE(Runs(neighbour));
   EXPECT_EQ(agent_.Status(status::kStatus), "0");
@@ -217,7 +118,7 @@ TEST_F(SessionTest, AStaleIdThatNowIsTheAgentsOrTheSchedulersEndsNeither) {
   agent_.SetShifted(keys::kClientPid, std::to_string(scheduler));
   agent_.SetShifted(keys::kClientPidRestore, std::to_string(agent_.machine.processes().own_id()));
   Start();
-  agent_.agent().form().commands().ExplorerLogout();
+  Commands().ExplorerLogout();
   EXPECT_TRUE(Runs(scheduler));
   EXPECT_TRUE(Runs(agent_.machine.processes().own_id()));
 }
@@ -227,7 +128,7 @@ TEST_F(SessionTest, ALogoutTakesTheQuotasItemAway) {
   Start();
   agent_.RightClick();
   EXPECT_TRUE(agent_.Item("MnuQuotaExceeded").Visible());
-  agent_.agent().form().commands().Relogin();
+  Commands().Relogin();
   EXPECT_FALSE(agent_.Item("MnuQuotaExceeded").Visible());
   EXPECT_FALSE(agent_.Item("BLLine").Visible());
 }
@@ -254,7 +155,7 @@ TEST_F(SessionTest, ALibraryTextTakesTheProductsName) {
   agent_.MakePartner();
   Start();
   agent_.host.AnswerWith("IDCancel");
-  agent_.agent().form().commands().MnuLoginClick();
+  Commands().MnuLoginClick();
   EXPECT_THAT(Effects(agent_), Contains("ask Leave Acme now?"));
 }
 

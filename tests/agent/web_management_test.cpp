@@ -5,50 +5,19 @@
 
 #include <string>
 
-#include "shared/keys.h"
+#include "shared/character_shift.h"
 #include "tests/agent/effects.h"
-#include "tests/agent/installed_agent.h"
+#include "tests/agent/web_fixture.h"
 
 namespace agent {
 namespace {
 
-using ::testing::Contains;
 using testing::Effects;
 using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using testing::InstalledAgent;
-using ::testing::Not;
 namespace keys = shared::keys;
 namespace sections = shared::sections;
 
-constexpr std::string_view kAlert = "frmWelcome";
-
-class WebManagementTest : public ::testing::Test {
- protected:
-  void Start() {
-    ASSERT_TRUE(agent_.Start());
-    agent_.StopTimers();
-    agent_.machine.journal().Clear();
-  }
-  void SetError(std::string_view value) {
-    agent_.SetProfile(sections::kOlwa, keys::kWebPluginError, value);
-  }
-  std::string Profile(std::string_view section, std::string_view key) {
-    return agent_.machine.files().IniValue(agent_.UserPath("SorvaneE.ini"), section, key);
-  }
-  void Click(const char* answer) {
-    agent_.host.AnswerWith(answer);
-    agent_.agent().form().commands().WebPluginClick();
-  }
-  bool AlertIsShown() {
-    const auto* alert = agent_.host.Find(kAlert);
-    return alert != nullptr && alert->Visible();
-  }
-  forms::MenuItem& Item() { return agent_.Item("WebPlugin"); }
-  TrayCommands& Commands() { return agent_.agent().form().commands(); }
-
-  InstalledAgent agent_;
-};
+class WebManagementTest : public testing::WebFixture {};
 
 TEST_F(WebManagementTest, SwitchesOnAfterTheQuestion) {
   agent_.SetShifted(keys::kPassword, "secret");
@@ -97,30 +66,6 @@ TEST_F(WebManagementTest, ALongTickInsideTheYieldDoesNotTurnTheSwitchBack) {
   EXPECT_FALSE(agent_.agent().form().WebMTimer.Enabled());
 }
 
-TEST_F(WebManagementTest, AnErrorThatStaysDoesNotLogOutWhoLogsInAgain) {
-  ASSERT_TRUE(agent_.Start());
-  SetError("-1");
-  agent_.machine.Run(21000);
-  EXPECT_EQ(agent_.ConnectionStatus(), 0u);
-  agent_.LogIn();
-  agent_.machine.Run(60000);
-  EXPECT_EQ(agent_.ConnectionStatus(), 1u);
-  SetError("-2");
-  agent_.machine.Run(21000);
-  EXPECT_EQ(agent_.ConnectionStatus(), 0u);
-}
-
-TEST_F(WebManagementTest, OnlyAPlainErrorOffersTheReport) {
-  Start();
-  const auto offers = [this] {
-    return agent_.host.Find(kAlert)->Find("lblErrorReportLink")->Visible();
-  };
-  Commands().HandleWebManagerError(kWebError);
-  EXPECT_TRUE(offers());
-  Commands().HandleWebManagerError(kWebAccountCancelled);
-  EXPECT_FALSE(offers());
-}
-
 TEST_F(WebManagementTest, CancelLeavesTheSwitch) {
   Start();
   Click("IDCancel");
@@ -150,87 +95,88 @@ TEST_F(WebManagementTest, WithoutAPasswordAsksForTheDesktopLogin) {
   EXPECT_FALSE(agent_.agent().form().WebMTimer.Enabled());
 }
 
-TEST_F(WebManagementTest, APasswordChangeAtStartLogsTheUserOut) {
-  SetError("-1");
-  ASSERT_TRUE(agent_.Start());
-  EXPECT_EQ(agent_.ConnectionStatus(), 0u);
-  EXPECT_TRUE(AlertIsShown());
-  EXPECT_EQ(agent_.host.Read(kAlert, "lblInstall"),
-            "Web Manager is disabled as your password has been changed. Login with your new "
-            "password to continue.");
-}
-
-TEST_F(WebManagementTest, AnErrorAtStartDoesNotLogTheUserOut) {
-  SetError("-3");
-  ASSERT_TRUE(agent_.Start());
-  EXPECT_EQ(agent_.ConnectionStatus(), 1u);
-  EXPECT_EQ(agent_.host.Read(kAlert, "lblInstall"),
-            "Web Manager is disabled as an error has occured");
-}
-
-TEST_F(WebManagementTest, AnErrorSwitchesOffEndsThePluginAndTells) {
-  agent_.SetProfile(sections::kWeb, keys::kWebPlugin, "1");
-  agent_.machine.processes().Start(agent_.Path("SorvanePlugin.exe"));
+TEST_F(WebManagementTest, APasswordInTheOldKeyIsEnough) {
   Start();
-  const auto before = agent_.machine.now();
-  Commands().HandleWebManagerError(kWebAccountCancelled);
-  EXPECT_THAT(Effects(agent_),
-              ElementsAre("write Web.WebPlugin=0", "end SorvanePlugin.exe",
-                          "trace  Error occurred in web management -2", "registry Status=0"));
-  EXPECT_EQ(agent_.machine.now() - before, 1000u);
-  EXPECT_EQ(agent_.host.Read(kAlert, "lblInstall"),
-            "Web Manager is disabled as your Sorvane account is canceled.");
+  agent_.SetProfile(sections::kTolvex, keys::kPlainPassword,
+                    shared::ShiftCharacters("secret", shared::kProfileShift).text);
+  Click("Continue");
+  agent_.machine.journal().Clear();
+  agent_.machine.Run(100);
+  EXPECT_THAT(Effects(agent_), ElementsAre("write OLWA.ErrVal="));
+  EXPECT_TRUE(Item().Checked());
 }
 
-TEST_F(WebManagementTest, OnlyAChangedPasswordStandsInTheTip) {
-  Start();
-  Commands().HandleWebManagerError(kWebError);
-  EXPECT_THAT(Effects(agent_), Not(Contains(HasSubstr("tip "))));
-  Commands().HandleWebManagerError(kWebPasswordChanged);
-  EXPECT_THAT(agent_.Tip(), HasSubstr("Sorvane - Web Manager is disabled"));
-}
-
-TEST_F(WebManagementTest, TwoErrorsInARowShowTheWindowOnce) {
-  Start();
-  Commands().HandleWebManagerError(kWebError);
-  EXPECT_TRUE(AlertIsShown());
-  agent_.host.Click(kAlert, "cmdExit");
-  for (int i = 0; i < 3; ++i) Commands().HandleWebManagerError(kWebError);
-  EXPECT_FALSE(AlertIsShown());
-}
-
-TEST_F(WebManagementTest, TheSwitchLetsTheNextErrorBeTold) {
+TEST_F(WebManagementTest, AUserWhoHasGoneWhenTheTimerTicksIsSentToTheDesktopLogin) {
+  agent_.machine.libraries().PutString(agent_.Path("TVToolTips.dll"), 979, "Log in first.");
   agent_.SetShifted(keys::kPassword, "secret");
   Start();
-  Commands().HandleWebManagerError(kWebError);
-  agent_.host.Click(kAlert, "cmdExit");
   Click("Continue");
-  Commands().HandleWebManagerError(kWebError);
-  EXPECT_TRUE(AlertIsShown());
+  agent_.ForgetUser();
+  agent_.host.AnswerWith("Continue");
+  agent_.machine.journal().Clear();
+  agent_.machine.Run(100);
+  EXPECT_THAT(Effects(agent_), ElementsAre("ask Log in first."));
+  EXPECT_EQ(agent_.agent().form().MousePointer(), forms::Pointer::kDefault);
 }
 
-TEST_F(WebManagementTest, WithNobodyLoggedInAnErrorIsOnlyCleared) {
+TEST_F(WebManagementTest, TheQuestionsHaveTheirTitleAndButtons) {
+  Start();
+  int looked = 0;
+  const auto look = [&looked](forms::Form& box) {
+    const auto text = [&box](std::string_view name) { return box.Find(name)->Text(); };
+    EXPECT_EQ(box.Caption(), "Web Management");
+    EXPECT_EQ(text("Continue") + "/" + text("IDCancel") + "/" + text("Image4"),
+              "Proceed/Cancel/question");
+    EXPECT_FALSE(box.Find("lblnote")->Shown());
+    ++looked;
+    box.Unload();
+  };
+  for (const bool on : {false, true}) {
+    Item().SetChecked(on);
+    agent_.host.Answer(look);
+    Commands().WebPluginClick();
+    EXPECT_EQ(agent_.agent().form().MousePointer(), forms::Pointer::kDefault);
+  }
+  EXPECT_EQ(looked, 2);
+}
+
+TEST_F(WebManagementTest, NobodyIsToldInAPlainBox) {
   agent_.ForgetUser();
   Start();
-  Commands().HandleWebManagerError(kWebPasswordChanged);
-  EXPECT_FALSE(AlertIsShown());
-  EXPECT_EQ(agent_.ConnectionStatus(), 1u);
+  Item().SetChecked(true);
+  std::string words;
+  agent_.host.Answer([&words](forms::Form& box) {
+    for (const char* name : {"Continue", "IDCancel", "Image4"}) {
+      words += box.Find(name)->Text() + " ";
+    }
+    words += box.Caption();
+    box.Unload();
+  });
+  Commands().WebPluginClick();
+  EXPECT_EQ(words, "OK Close info Sorvane");
+  EXPECT_FALSE(Item().Checked());
 }
 
-TEST_F(WebManagementTest, ClosingTheAlertOfAChangedPasswordLeadsToTheLogin) {
+TEST_F(WebManagementTest, ThePointerIsBusyUntilTheTimerTicks) {
+  agent_.SetShifted(keys::kPassword, "secret");
   Start();
-  Commands().HandleWebManagerError(kWebPasswordChanged);
-  agent_.machine.journal().Clear();
-  agent_.host.Click(kAlert, "cmdExit");
-  EXPECT_THAT(Effects(agent_), ElementsAre("start C:\\Sorvane\\SorvaneEClassic.exe",
-                                           "trace  WebpluginAlert Screen is Closed"));
+  for (const bool on : {false, true}) {
+    Item().SetChecked(on);
+    Click("Continue");
+    EXPECT_EQ(agent_.agent().form().MousePointer(), forms::Pointer::kBusy);
+    agent_.machine.Run(100);
+    EXPECT_EQ(agent_.agent().form().MousePointer(), forms::Pointer::kDefault);
+  }
 }
 
-TEST_F(WebManagementTest, ASlowTickTellsAnErrorThatThePluginHasLeft) {
-  ASSERT_TRUE(agent_.Start());
-  SetError("-3");
-  agent_.machine.Run(21000);
-  EXPECT_TRUE(AlertIsShown());
+TEST_F(WebManagementTest, SwitchingOffForgetsThePluginsState) {
+  agent_.SetProfile(sections::kWeb, keys::kWebPlugin, "1");
+  Start();
+  agent_.state().WebState = 1;
+  Click("Continue");
+  EXPECT_EQ(agent_.state().WebState, 1);
+  agent_.machine.Run(100);
+  EXPECT_EQ(agent_.state().WebState, 0);
 }
 
 TEST_F(WebManagementTest, WaitsAMinuteAtMostForThePluginsAnswer) {
@@ -248,6 +194,24 @@ TEST_F(WebManagementTest, WaitsAMinuteAtMostForThePluginsAnswer) {
                                   keys::kPluginAuth, "5");
     EXPECT_EQ(std::to_string(web.WaitWebManagerAuth()), answer);
   }
+}
+
+TEST_F(WebManagementTest, TheWaitForThePluginGivesWayOnceAtItsBegin) {
+  Start();
+  const auto before = agent_.machine.now();
+  std::uint64_t gave_way_at = 0;
+  int times = 0;
+  for (std::uint32_t pump = 1; pump <= 2; ++pump) {
+    agent_.machine.WhenPumped(
+        [&] {
+          gave_way_at = agent_.machine.now();
+          ++times;
+        },
+        pump);
+  }
+  Commands().web_management().WaitWebManagerAuth();
+  EXPECT_EQ(times, 1);
+  EXPECT_EQ(gave_way_at, before);
 }
 
 }  // namespace
