@@ -70,15 +70,15 @@ void ContinuousBackup::mnuCDP_Click() {
     return;
   }
   // 2.
-  const bool proceed =
-      messages_.ShowMessage({.text = menu_.Item(kItem).Checked() ? kOffQuestion : kOnQuestion,
-                             .first_caption = "Proceed",
-                             .second_caption = "Cancel",
-                             .picture = shared::MessagePicture::kQuestion,
-                             .title = kTitle,
-                             .file_size_note = true});
-  // 3.
-  if (!proceed) return;
+  const bool was_on = menu_.Item(kItem).Checked();
+  const bool proceed = messages_.ShowMessage({.text = was_on ? kOffQuestion : kOnQuestion,
+                                              .first_caption = "Proceed",
+                                              .second_caption = "Cancel",
+                                              .picture = shared::MessagePicture::kQuestion,
+                                              .title = kTitle,
+                                              .file_size_note = true});
+  // 3. An answer that comes after another switch would do the opposite of what was asked.
+  if (!proceed || menu_.Item(kItem).Checked() != was_on) return;
   form_.SetMousePointer(forms::Pointer::kBusy);
   timer_.SetEnabled(true);
 }
@@ -98,14 +98,15 @@ void ContinuousBackup::CDPTimer() {
 }
 
 void ContinuousBackup::Enable() {
+  // The user and the engine are waited for: a logout may come meanwhile.
+  state_.LoggedOutMeanwhile = false;
   // 1. The engine runs one thing at a time.
   if (!GiveWayToSwitch()) return;
   // 2.
   tray_.SetTrayIcon(shared_texts_.continuous_enabling);
   WriteChoice(kOn);
   form_.SetMousePointer(forms::Pointer::kBusy);
-  // 3. The engine is waited for: the user may log out meanwhile.
-  state_.LoggedOutMeanwhile = false;
+  // 3.
   const bool good = ContinuousLogin(machine_, state_, form_).ValidateContinuousLogin();
   if (!good || state_.LoggedOutMeanwhile) {
     WriteChoice(kOff);
@@ -144,16 +145,15 @@ void ContinuousBackup::Disable() {
   profile_.WriteUserNameProfile(keys::kRtBackup, kOff);
 }
 
-// False when a transfer runs and the user keeps it.
+// False when a transfer runs and the user keeps it, or has logged out over the question.
 bool ContinuousBackup::GiveWayToSwitch() {
   const std::string status = channel_.ReadBackupStatus(status::kStatus);
   if (status != "1" && status != "2") return true;
-  if (!messages_.ShowMessage({.text = texts_.Get(kTransferRuns),
-                              .first_caption = "Yes",
-                              .second_caption = "No",
-                              .picture = shared::MessagePicture::kQuestion})) {
-    return false;
-  }
+  const bool give_way = messages_.ShowMessage({.text = texts_.Get(kTransferRuns),
+                                               .first_caption = "Yes",
+                                               .second_caption = "No",
+                                               .picture = shared::MessagePicture::kQuestion});
+  if (!give_way || state_.LoggedOutMeanwhile) return false;
   EndTransfer();
   return true;
 }

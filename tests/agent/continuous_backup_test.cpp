@@ -9,8 +9,8 @@
 #include "shared/file_names.h"
 #include "shared/keys.h"
 #include "status/progress_keys.h"
+#include "tests/agent/continuous_fixture.h"
 #include "tests/agent/effects.h"
-#include "tests/agent/installed_agent.h"
 
 namespace agent {
 namespace {
@@ -18,72 +18,19 @@ namespace {
 using ::testing::Contains;
 using testing::Effects;
 using ::testing::ElementsAre;
+using ::testing::ElementsAreArray;
 using ::testing::HasSubstr;
-using testing::InstalledAgent;
 using ::testing::IsEmpty;
 using ::testing::Not;
 namespace files = shared::files;
 namespace keys = shared::keys;
 namespace sections = shared::sections;
 
-class ContinuousBackupTest : public ::testing::Test {
- protected:
-  ContinuousBackupTest() {
-    agent_.machine.libraries().PutFunction(agent_.Path("SorvaneERealTime.dll"), "PostCDPStatusMsg",
-                                           [this](std::int32_t order) {
-                                             orders_.push_back(order);
-                                             return 0;
-                                           });
-    agent_.machine.files().Put(agent_.Path("SorvaneEClsClient.exe"), "");
-    agent_.machine.processes().Install(
-        "SorvaneEClsClient.exe",
-        [this](const platform::memory::Launch& launch) { Answer(launch); });
-    agent_.SetShifted(keys::kServerIp, "192.0.2.77");
-    agent_.SetShifted(keys::kPort, "4000");
-    agent_.SetShifted(keys::kRandom, "12345");
-  }
-  void Start() {
-    ASSERT_TRUE(agent_.Start());
-    agent_.StopTimers();
-    agent_.machine.journal().Clear();
-  }
-  // The engine client: the next scripted result, 402 when the script is over.
-  void Answer(const platform::memory::Launch& launch) {
-    asked_.push_back(launch.arguments);
-    const std::string result = script_.empty() ? "402" : script_.front();
-    if (!script_.empty()) script_.erase(script_.begin());
-    agent_.machine.processes().After(launch.id, 500, [this, result, id = launch.id] {
-      agent_.SetStatus(status::kRetValue, result);
-      if (when_answered_) when_answered_();
-      agent_.machine.processes().End(id);
-    });
-  }
-  void Click(const char* answer) {
-    agent_.host.AnswerWith(answer);
-    agent_.agent().form().commands().MnuCdpClick();
-  }
-  void SwitchOn() {
-    Click("Continue");
-    agent_.machine.Run(100);
-  }
-  void SwitchOff() {
-    Item().SetChecked(true);
-    Click("Continue");
-    agent_.machine.journal().Clear();
-    agent_.machine.Run(100);
-  }
-  std::string Profile(std::string_view key) {
-    return agent_.machine.files().IniValue(agent_.UserPath("SorvaneE.ini"), sections::kTolvex, key);
-  }
-  forms::MenuItem& Item() { return agent_.Item("mnuCDP"); }
-  forms::Timer& Timer() { return agent_.agent().form().CDPTimer; }
+// Milliseconds: until the one-shot timer ticks, and of each look at the module.
+constexpr std::uint64_t kTimer = 100;
+constexpr std::uint64_t kRound = 100;
 
-  InstalledAgent agent_;
-  std::vector<std::int32_t> orders_;
-  std::vector<std::string> script_;
-  std::vector<std::string> asked_;
-  std::function<void()> when_answered_;
-};
+class ContinuousBackupTest : public testing::ContinuousFixture {};
 
 TEST_F(ContinuousBackupTest, AsksBeforeItSwitchesEitherWay) {
   Start();
@@ -108,22 +55,34 @@ TEST_F(ContinuousBackupTest, WithNobodyLoggedInLeadsToTheLogin) {
   EXPECT_FALSE(Timer().Enabled());
 }
 
+// Everything between the click and the module's order, when no transfer runs.
+std::vector<std::string> Enabling() {
+  return {"tip Enabling the Continuous Data Backup operation.",
+          "write Tolvex.RealTimeBackup=1",
+          "write Tolvex.RealTimeBackup=1",
+          "write Tolvex.Interactive=ann",
+          "start C:\\Sorvane\\SorvaneEClsClient.exe  23< >",
+          "start C:\\Sorvane\\SorvaneEClsClient.exe  9< >",
+          "write Tolvex.Interactive=ann",
+          "tip No backup has been scheduled.",
+          "write Registry.CurrentUser=ann",
+          "write Tolvex.RealTimeBackup=1",
+          "write Tolvex.RealTimeBackup=1",
+          "write Tolvex.RTBPausedBySch=0",
+          "call SorvaneERealTime.dll.PostCDPStatusMsg(1)"};
+}
+
 TEST_F(ContinuousBackupTest, EnablesInItsOrder) {
   Start();
-  SwitchOn();
-  EXPECT_EQ(asked_, (std::vector<std::string>{" 23< >", " 9< >"}));
-  EXPECT_EQ(orders_, std::vector<std::int32_t>{1});
-  const std::vector<std::string> effects = Effects(agent_);
-  const std::vector<std::string> tail(effects.end() - 5, effects.end());
-  EXPECT_THAT(tail, ElementsAre("write Registry.CurrentUser=ann", "write Tolvex.RealTimeBackup=1",
-                                "write Tolvex.RealTimeBackup=1", "write Tolvex.RTBPausedBySch=0",
-                                "call SorvaneERealTime.dll.PostCDPStatusMsg(1)"));
-  EXPECT_THAT(effects, Contains("tip Enabling the Continuous Data Backup operation."));
+  Click("Continue");
+  agent_.machine.journal().Clear();
+  agent_.machine.Run(100);
+  EXPECT_THAT(Effects(agent_), ElementsAreArray(Enabling()));
   EXPECT_EQ(agent_.Shared(keys::kRealTimeBackup), "1");
   EXPECT_EQ(Profile(keys::kRealTimeBackup), "1");
   EXPECT_FALSE(Item().Checked());
   EXPECT_FALSE(Timer().Enabled());
-  EXPECT_EQ(agent_.agent().form().MousePointer(), forms::Pointer::kDefault);
+  EXPECT_EQ(Pointer(), forms::Pointer::kDefault);
   agent_.RightClick();
   EXPECT_TRUE(Item().Checked());
 }
@@ -157,72 +116,18 @@ TEST_F(ContinuousBackupTest, ARunningTransferIsEndedFirst) {
   agent_.host.AnswerWith("Continue");
   agent_.machine.journal().Clear();
   agent_.machine.Run(100);
-  const std::vector<std::string> effects = Effects(agent_);
-  const std::vector<std::string> head(effects.begin(), effects.begin() + 10);
-  EXPECT_THAT(head,
-              ElementsAre("ask A backup/restore job is in progress. Do you want to cancel it?",
-                          "end client.exe", "end client.exe", "write BackupStatus.Status=5",
-                          "write BackupStatus.DLLStatus=3", "end SorvaneEContextMenu.exe",
-                          "remove ContextMenuRun.txt", "write BackupStatus.Status=5",
-                          "write ProgressInfo.Cancel=1",
-                          "tip Enabling the Continuous Data Backup operation."));
-  EXPECT_EQ(orders_, std::vector<std::int32_t>{1});
-}
-
-TEST_F(ContinuousBackupTest, ARefusedLoginTakesTheChoiceBack) {
-  script_ = {"-40"};
-  Start();
-  SwitchOn();
-  EXPECT_EQ(asked_, std::vector<std::string>{" 23< >"});
-  EXPECT_EQ(agent_.Shared(keys::kRealTimeBackup), "0");
-  EXPECT_EQ(Profile(keys::kRealTimeBackup), "0");
-  EXPECT_THAT(orders_, IsEmpty());
-  EXPECT_FALSE(Timer().Enabled());
-}
-
-TEST_F(ContinuousBackupTest, AServerThatCannotBeReachedIsLeftForTheOtherOnce) {
-  script_ = {"-12010", "-12010", "-416"};
-  Start();
-  SwitchOn();
-  EXPECT_EQ(asked_, (std::vector<std::string>{" 23< >", " 23< >", " 23< >", " 23< >", " 9< >"}));
-  EXPECT_EQ(agent_.machine.journal().Count("profile", "[Tolvex] IPAddres="), 1u);
-  EXPECT_EQ(Profile(keys::kPlainAddress), "192.0.2.10");
-  EXPECT_EQ(Profile(keys::kPlainPort), "11905");
-}
-
-TEST_F(ContinuousBackupTest, TheAccountIsAskedTenTimesWithOneFallback) {
-  script_ = std::vector<std::string>(11, "-416");
-  script_[0] = "402";
-  Start();
-  SwitchOn();
-  EXPECT_EQ(asked_.size(), 11u);
-  EXPECT_EQ(agent_.machine.journal().Count("profile", "[Tolvex] IPAddres="), 1u);
-  EXPECT_THAT(orders_, IsEmpty());
-}
-
-TEST_F(ContinuousBackupTest, ARedirectionIsFollowed) {
-  when_answered_ = [this] { agent_.PutUserFile(files::kDllOutput1, "5000\r\n192.0.2.99\r\n"); };
-  Start();
-  SwitchOn();
-  EXPECT_EQ(Profile(keys::kPlainAddress), "192.0.2.99");
-  EXPECT_EQ(Profile(keys::kPlainPort), "5000");
-}
-
-TEST_F(ContinuousBackupTest, UnknownRandomDigitsThatAreNotRenewedRefuse) {
-  script_ = {"402", "-505"};
-  Start();
-  SwitchOn();
-  EXPECT_EQ(agent_.Shared(keys::kRealTimeBackup), "0");
-  EXPECT_THAT(orders_, IsEmpty());
-}
-
-TEST_F(ContinuousBackupTest, TheUserOfTheClientIsPutBack) {
-  agent_.SetShared(keys::kInteractive, "bob");
-  script_ = {"-12010"};
-  Start();
-  SwitchOn();
-  EXPECT_EQ(agent_.Shared(keys::kInteractive), "bob");
-  EXPECT_EQ(agent_.state().CurrentUser, "ann");
+  std::vector<std::string> expected = {
+      "ask A backup/restore job is in progress. Do you want to cancel it?",
+      "end client.exe",
+      "end client.exe",
+      "write BackupStatus.Status=5",
+      "write BackupStatus.DLLStatus=3",
+      "end SorvaneEContextMenu.exe",
+      "remove ContextMenuRun.txt",
+      "write BackupStatus.Status=5",
+      "write ProgressInfo.Cancel=1"};
+  for (std::string& line : Enabling()) expected.push_back(line);
+  EXPECT_THAT(Effects(agent_), ElementsAreArray(expected));
 }
 
 TEST_F(ContinuousBackupTest, DisablesWithinTwoSecondsWhenTheModuleStops) {
@@ -236,8 +141,7 @@ TEST_F(ContinuousBackupTest, DisablesWithinTwoSecondsWhenTheModuleStops) {
                   "write Tolvex.RealTimeBackup=0", "write Tolvex.RealTimeBackup=0",
                   "write Tolvex.RealTimeBackup=0", "write Tolvex.RTBPausedBySch=0",
                   "call SorvaneERealTime.dll.PostCDPStatusMsg(0)", "write Tolvex.RTBackup=0"));
-  EXPECT_GE(agent_.machine.now() - before, 2000u);
-  EXPECT_LT(agent_.machine.now() - before, 2500u);
+  EXPECT_EQ(agent_.machine.now() - before, kTimer + 20 * kRound);
   EXPECT_FALSE(Item().Checked());
   EXPECT_FALSE(Timer().Enabled());
 }
@@ -255,19 +159,105 @@ TEST_F(ContinuousBackupTest, DisablesWithinSevenSecondsWhenTheModuleStaysOn) {
                   "write BackupStatus.DLLStatus=3", "write Tolvex.RealTimeBackup=0",
                   "write Tolvex.RealTimeBackup=0", "write Tolvex.RTBPausedBySch=0",
                   "call SorvaneERealTime.dll.PostCDPStatusMsg(0)", "write Tolvex.RTBackup=0"));
-  EXPECT_GE(agent_.machine.now() - before, 7000u);
+  EXPECT_EQ(agent_.machine.now() - before, kTimer + 70 * kRound);
+}
+
+TEST_F(ContinuousBackupTest, AModuleThatStopsInTheSecondWaitIsStillWaitedForToItsEnd) {
+  agent_.SetShared(keys::kRtBackup, "1");
+  Start();
+  const auto before = agent_.machine.now();
+  agent_.machine.At(before + 4000, [this] { agent_.SetShared(keys::kRtBackup, "0"); });
+  SwitchOff();
+  EXPECT_EQ(agent_.machine.now() - before, kTimer + 70 * kRound);
+  EXPECT_EQ(agent_.machine.journal().Count("profile", "DLLStatus=3"), 2u);
+  EXPECT_EQ(orders_, std::vector<std::int32_t>{0});
+}
+
+TEST_F(ContinuousBackupTest, AModuleThatStopsInTheFirstWaitIsAskedOnlyOnce) {
+  agent_.SetShared(keys::kRtBackup, "1");
+  Start();
+  const auto before = agent_.machine.now();
+  agent_.machine.At(before + 1500, [this] { agent_.SetShared(keys::kRtBackup, "0"); });
+  SwitchOff();
+  EXPECT_EQ(agent_.machine.now() - before, kTimer + 20 * kRound);
+  EXPECT_EQ(agent_.machine.journal().Count("profile", "DLLStatus=3"), 1u);
+}
+
+TEST_F(ContinuousBackupTest, DisablingTellsTheUsersFileAndTheProfile) {
+  agent_.SetShared(keys::kRealTimeBackup, "1");
+  agent_.SetProfile(sections::kTolvex, keys::kRealTimeBackup, "1");
+  agent_.SetShared(keys::kRtPausedBySchedule, "2");
+  agent_.SetShared(keys::kRtBackup, "5");
+  Start();
+  SwitchOff();
+  EXPECT_EQ(agent_.Shared(keys::kRealTimeBackup), "0");
+  EXPECT_EQ(Profile(keys::kRealTimeBackup), "0");
+  EXPECT_EQ(agent_.Shared(keys::kRtPausedBySchedule), "0");
+  EXPECT_EQ(agent_.Shared(keys::kRtBackup), "0");
 }
 
 TEST_F(ContinuousBackupTest, TwoJobsThatHoldTheModulePausedNeedTwoEnds) {
   agent_.SetShared(keys::kRtPausedBySchedule, "2");
   Start();
-  auto& continuous = agent_.agent().form().commands().continuous_backup();
+  auto& continuous = Commands().continuous_backup();
   continuous.RestartRealtimeSystem();
   EXPECT_THAT(orders_, IsEmpty());
   EXPECT_EQ(agent_.Shared(keys::kRtPausedBySchedule), "1");
   continuous.RestartRealtimeSystem();
   EXPECT_EQ(orders_, std::vector<std::int32_t>{1});
   EXPECT_EQ(agent_.Shared(keys::kRtPausedBySchedule), "0");
+}
+
+TEST_F(ContinuousBackupTest, ACountOfPausesThatIsNoPausedJobNeverStartsTheModule) {
+  struct Row {
+    const char* before;
+    const char* after;
+  };
+  constexpr Row kRows[] = {{"", "-1"},   {"0", "-1"},        {"many", "-1"},
+                           {"-1", "-2"}, {"32767", "32766"}, {"3", "2"}};
+  Start();
+  for (const Row& row : kRows) {
+    agent_.SetShared(keys::kRtPausedBySchedule, row.before);
+    Commands().continuous_backup().RestartRealtimeSystem();
+    EXPECT_EQ(agent_.Shared(keys::kRtPausedBySchedule), row.after) << row.before;
+  }
+  EXPECT_THAT(orders_, IsEmpty());
+}
+
+TEST_F(ContinuousBackupTest, TheLastJobsEndStartsTheModuleAndGivesItASecond) {
+  agent_.SetShared(keys::kRtPausedBySchedule, "1");
+  Start();
+  const auto before = agent_.machine.now();
+  Commands().continuous_backup().RestartRealtimeSystem();
+  EXPECT_THAT(Effects(agent_), ElementsAre("write Tolvex.RTBPausedBySch=0",
+                                           "call SorvaneERealTime.dll.PostCDPStatusMsg(1)"));
+  EXPECT_EQ(agent_.machine.now() - before, 1000u);
+}
+
+TEST_F(ContinuousBackupTest, ProcessIdsThatAreStaleOrAnotherProgramsEndNothing) {
+  auto& processes = agent_.machine.processes();
+  const auto stranger = processes.Start("C:\\Windows\\notepad.exe");
+  struct Row {
+    std::string backup, restore;
+  };
+  const Row rows[] = {
+      {"99999", "no number"},
+      {std::to_string(stranger), std::to_string(processes.own_id())},
+      {std::to_string(processes.RunningId("SorvaneEBackground.exe")), ""},
+  };
+  Start();
+  for (const Row& row : rows) {
+    orders_.clear();
+    agent_.SetStatus(status::kStatus, "1");
+    agent_.SetShifted(keys::kClientPid, row.backup);
+    agent_.SetShifted(keys::kClientPidRestore, row.restore);
+    Click("Continue");
+    agent_.host.AnswerWith("Continue");
+    agent_.machine.Run(100);
+    EXPECT_EQ(agent_.machine.journal().Count("process", "terminate"), 0u) << row.backup;
+    EXPECT_EQ(agent_.Status(status::kStatus), "5") << row.backup;
+    EXPECT_EQ(orders_, std::vector<std::int32_t>{1}) << row.backup;
+  }
 }
 
 TEST_F(ContinuousBackupTest, AMissingModuleIsASilentFailure) {
@@ -279,79 +269,16 @@ TEST_F(ContinuousBackupTest, AMissingModuleIsASilentFailure) {
   EXPECT_EQ(agent_.Shared(keys::kRealTimeBackup), "0");
 }
 
-// Opens the menu for each of its items, one after another, while a handler waits.
-int OpenEveryItem(InstalledAgent& agent) {
-  int popups = 0;
-  for (const auto& item : agent.agent().form().menu().Popup().Items()) {
-    if (item.Name() == "MnuExit" || item.Separator()) continue;
-    agent.machine.AtAgent(agent.machine.now() + 300 + 150 * static_cast<unsigned>(popups++),
-                          [&agent, name = item.Name()] {
-                            auto& form = agent.agent().form();
-                            agent.host.ChooseFromMenu(name);
-                            form.PopUp(form.menu().Popup());
-                          });
-  }
-  return popups;
-}
-
-TEST_F(ContinuousBackupTest, TicksAndEveryMenuItemRunThroughTheWaitForTheModule) {
-  agent_.SetShared(keys::kRtBackup, "1");
-  ASSERT_TRUE(agent_.Start());
-  const int popups = OpenEveryItem(agent_);
-  Item().SetChecked(true);
-  Click("Continue");
-  agent_.machine.Run(8000);
-  EXPECT_FALSE(agent_.machine.ran_away());
-  EXPECT_EQ(agent_.Shared(keys::kRealTimeBackup), "0");
-  EXPECT_FALSE(agent_.state().ContinuousSwitchUnderWay);
-  EXPECT_GE(agent_.host.MenusShown(), popups);
-}
-
-TEST_F(ContinuousBackupTest, TicksAndEveryMenuItemRunThroughTheWaitForTheEngine) {
-  script_ = std::vector<std::string>(8, "-1");
-  ASSERT_TRUE(agent_.Start());
-  const int popups = OpenEveryItem(agent_);
-  Click("Continue");
-  agent_.machine.Run(30000);
-  EXPECT_FALSE(agent_.machine.ran_away());
-  EXPECT_FALSE(agent_.state().ContinuousSwitchUnderWay);
-  EXPECT_FALSE(Timer().Enabled());
-  EXPECT_GE(agent_.host.MenusShown(), popups);
-}
-
-TEST_F(ContinuousBackupTest, TheQuestionCarriesTheNoteOnFileSizes) {
-  Start();
-  bool noted = false;
-  agent_.host.Answer([&](forms::Form& box) {
-    noted = box.Find("lblnote")->Visible() && box.Find("lblcdp")->Visible();
-    box.Unload();
-  });
-  agent_.agent().form().commands().MnuCdpClick();
-  EXPECT_TRUE(noted);
-}
-
 TEST_F(ContinuousBackupTest, ALogoutDuringTheLoginTakesTheChoiceBack) {
   when_answered_ = [this] {
     when_answered_ = nullptr;
-    agent_.machine.AtAgent(agent_.machine.now(),
-                           [this] { agent_.agent().form().commands().ExplorerLogout(); });
+    agent_.machine.AtAgent(agent_.machine.now(), [this] { Commands().ExplorerLogout(); });
   };
   Start();
   SwitchOn();
   EXPECT_EQ(orders_, std::vector<std::int32_t>{0});
   EXPECT_EQ(agent_.Shared(keys::kRealTimeBackup), "0");
   EXPECT_EQ(agent_.ConnectionStatus(), 0u);
-}
-
-TEST_F(ContinuousBackupTest, TheEngineActsForTheUserWhoSwitches) {
-  agent_.SetShared(keys::kInteractive, "");
-  std::string acted_for;
-  when_answered_ = [&] { acted_for = agent_.Shared(keys::kInteractive); };
-  Start();
-  SwitchOn();
-  EXPECT_EQ(acted_for, "ann");
-  EXPECT_EQ(agent_.Shared(keys::kInteractive), "");
-  EXPECT_EQ(orders_, std::vector<std::int32_t>{1});
 }
 
 TEST_F(ContinuousBackupTest, WithoutAClientTheAgentStaysAliveInTheWait) {
@@ -366,7 +293,7 @@ TEST_F(ContinuousBackupTest, WithoutAClientTheAgentStaysAliveInTheWait) {
     agent_.host.ChooseFromMenu("mnuStatus");
     agent_.RightClick();
     answered = agent_.host.Find("frmStatus") != nullptr;
-    agent_.agent().form().commands().MnuExitClick();
+    Commands().MnuExitClick();
   });
   Click("Continue");
   agent_.machine.Run(60000);
@@ -378,17 +305,59 @@ TEST_F(ContinuousBackupTest, WithoutAClientTheAgentStaysAliveInTheWait) {
 TEST_F(ContinuousBackupTest, ASecondClickDuringTheSwitchAsksNothing) {
   agent_.SetShared(keys::kRtBackup, "0");
   Start();
-  agent_.machine.AtAgent(agent_.machine.now() + 1000,
-                         [this] { agent_.agent().form().commands().MnuCdpClick(); });
+  agent_.machine.AtAgent(agent_.machine.now() + 1000, [this] { Commands().MnuCdpClick(); });
   SwitchOff();
   EXPECT_THAT(Effects(agent_), Not(Contains(HasSubstr("ask "))));
+}
+
+TEST_F(ContinuousBackupTest, AnAnswerThatComesAfterAnotherSwitchTurnsNothingBack) {
+  agent_.SetShared(keys::kRtBackup, "0");
+  Start();
+  Item().SetChecked(true);
+  // The second question is answered once the switch of the first has ended.
+  agent_.host.AnswerWith("Continue");
+  agent_.host.Answer([this](forms::Form& box) {
+    agent_.machine.Run(3000);
+    box.PressKey(box.Find("TextCont"), forms::Key::kEnter);
+  });
+  Commands().MnuCdpClick();
+  Commands().MnuCdpClick();
+  agent_.machine.Run(3000);
+  EXPECT_EQ(orders_, std::vector<std::int32_t>{0});
+  EXPECT_EQ(agent_.Shared(keys::kRealTimeBackup), "0");
+  EXPECT_EQ(Pointer(), forms::Pointer::kDefault);
+}
+
+TEST_F(ContinuousBackupTest, ALogoutOverTheQuestionAboutTheTransferEndsTheSwitch) {
+  agent_.SetStatus(status::kStatus, "1");
+  Start();
+  Click("Continue");
+  agent_.host.Answer([this](forms::Form& box) {
+    Commands().ExplorerLogout();
+    box.PressKey(box.Find("TextCont"), forms::Key::kEnter);
+  });
+  agent_.machine.Run(100);
+  EXPECT_THAT(asked_, IsEmpty());
+  EXPECT_EQ(orders_, std::vector<std::int32_t>{0});
+  EXPECT_EQ(agent_.Shared(keys::kRealTimeBackup), "");
+}
+
+TEST_F(ContinuousBackupTest, APasswordThatIsChangedDuringTheLoginTakesTheChoiceBack) {
+  when_answered_ = [this] {
+    when_answered_ = nullptr;
+    agent_.machine.AtAgent(agent_.machine.now(),
+                           [this] { Commands().HandleWebManagerError(kWebPasswordChanged); });
+  };
+  Start();
+  SwitchOn();
+  EXPECT_THAT(orders_, IsEmpty());
+  EXPECT_EQ(agent_.Shared(keys::kRealTimeBackup), "0");
 }
 
 TEST_F(ContinuousBackupTest, TheProgramCanEndDuringTheWait) {
   agent_.SetShared(keys::kRtBackup, "1");
   Start();
-  agent_.machine.AtAgent(agent_.machine.now() + 1000,
-                         [this] { agent_.agent().form().commands().MnuExitClick(); });
+  agent_.machine.AtAgent(agent_.machine.now() + 1000, [this] { Commands().MnuExitClick(); });
   SwitchOff();
   EXPECT_TRUE(agent_.machine.exited());
 }
