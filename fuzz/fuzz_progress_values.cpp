@@ -35,7 +35,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   channel.ReadProgWndValue();
   channel.ReadBackupStatusInt(status::kDllStatus);
   channel.ReadQuotaStatus();
-  fuzz::Check(channel.ReadOutcome().find_first_of("\r\n") == std::string::npos);
+  fuzz::Check(channel.ReadOutcome().value_or("").find_first_of("\r\n") == std::string::npos);
 
   // Whatever the engine left, a reset leaves no transfer behind.
   channel.ResetProgressFile();

@@ -1,20 +1,8 @@
 #include "status/fast_tick.h"
 
-#include "status/progress_keys.h"
 #include "status/transfer_view.h"
 
 namespace status {
-namespace {
-
-void LeaveTransferView(StatusView& view, IdleView& idle, const StatusContext& context) {
-  idle.LeaveTransfer();
-  if (view.status_line != context.texts.job_in_progress) return;
-  idle.SetStatusLine("");
-  idle.GetNextTransferTime();
-  view.log_enabled = true;
-}
-
-}  // namespace
 
 void DecideFastTick(const TickFrame& frame, IdleView& idle, std::string_view user,
                     const TransferSnapshot& transfer) {
@@ -23,15 +11,14 @@ void DecideFastTick(const TickFrame& frame, IdleView& idle, std::string_view use
   if (frame.memory.user != user) {
     frame.memory.user = user;
     frame.effects.Trace(" [INFORMATION] User login has been changed ");
-    idle.SetStatusLine("");
-    idle.GetNextTransferTime();
+    idle.ChangeUser();
   }
   // 2.
   if (user.empty()) return idle.LoggedOut();
   idle.LoggedIn(user);
   // 3.
   SetTitleOfTick(view, transfer, frame.context);
-  view.notification_shown = !transfer.in_progress || transfer.job == kJobScheduled;
+  view.notification_shown = HasNotificationBox(transfer);
   // 4., 5.
   if (transfer.IsShownHere()) return EnterTransferView(view, transfer, frame.context);
   // 6.
@@ -40,7 +27,7 @@ void DecideFastTick(const TickFrame& frame, IdleView& idle, std::string_view use
   if (transfer.in_progress) {
     idle.ShowUnseenTransfer(transfer);
   } else {
-    LeaveTransferView(view, idle, frame.context);
+    idle.LeaveTransfer();
   }
 }
 

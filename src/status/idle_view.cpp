@@ -32,21 +32,45 @@ void IdleView::GetNextTransferTime() {
   view_.user_name = Now().user;
   memory_.idle_user = Now().user;
   // 2.
-  if (!Now().has_schedule) return;
+  if (!Now().has_schedule) return FillBlankStatusLine();
+  if (!Now().schedule_read) {
+    // The earlier text stays; where there is none, the next slow tick tries again.
+    if (view_.status_line.empty()) memory_.idle_user.clear();
+    return;
+  }
   const NextRun next = ReadNextRun();
   // 3.
-  if (!StartTimeField(next.line).empty()) {
-    // 4.
-    SetStatusLine(TellTime(next));
-    // 5.
-    if (Now().schedule_disabled) {
-      SetStatusLine(context_.texts.schedule_disabled);
-    } else {
-      NextLine(next);
-    }
+  if (StartTimeField(next.line).empty()) {
+    // 6.
+    QuotaRow();
+    return FillBlankStatusLine();
+  }
+  // 4.
+  SetStatusLine(TellTime(next));
+  // 5.
+  if (Now().schedule_disabled) {
+    SetStatusLine(context_.texts.schedule_disabled);
+  } else {
+    NextLine(next);
   }
   // 6.
   QuotaRow();
+}
+
+void IdleView::ChangeUser() {
+  SetStatusLine("");
+  view_.next_line.clear();
+  GetNextTransferTime();
+}
+
+// Without a next run there is no time to tell: what the slow tick would say is said at once.
+void IdleView::FillBlankStatusLine() {
+  if (!view_.status_line.empty() || Now().user.empty()) return;
+  if (JobIsRunning()) return ShowScheduledJob();
+  view_.next_line.clear();
+  view_.next_line_shown = Now().has_schedule;
+  QuotaRow();
+  if (view_.status_line.empty()) SetStatusLine(NoScheduleLine());
 }
 
 void IdleView::QuotaRow() {
@@ -82,21 +106,30 @@ void IdleView::NextLine(const NextRun& next) {
   view_.next_line_shown = true;
 }
 
+// An outcome that cannot be read leaves the earlier text.
+void IdleView::SetOutcome(int points) {
+  if (Now().outcome) SetStatusLine(*Now().outcome, points);
+}
+
 void IdleView::ShowOutcome(const NextRun& next) {
-  SetStatusLine(Now().outcome, kSmallPoints);
+  SetOutcome(kSmallPoints);
   NextLine(next);
 }
 
 void IdleView::NoScheduleText() {
-  if (Now().schedule_disabled) {
-    TraceOnLoad("   [INFORMATION] Form-Load: Scheduler is disabled");
-    SetStatusLine(context_.texts.schedule_disabled);
-  } else if ((Now().indicator == kIndicatorQuota || Now().indicator == kIndicatorAccount) &&
-             !Now().outcome.empty()) {
-    SetStatusLine(Now().outcome);
-  } else {
-    SetStatusLine(context_.texts.no_schedule);
-  }
+  if (Now().schedule_disabled) TraceOnLoad("   [INFORMATION] Form-Load: Scheduler is disabled");
+  SetStatusLine(NoScheduleLine());
+}
+
+const std::string& IdleView::NoScheduleLine() {
+  if (Now().schedule_disabled) return context_.texts.schedule_disabled;
+  const std::optional<std::string>& outcome = Now().outcome;
+  if (MessageIsForTheUser() && outcome && !outcome->empty()) return *outcome;
+  return context_.texts.no_schedule;
+}
+
+bool IdleView::MessageIsForTheUser() {
+  return Now().indicator == kIndicatorQuota || Now().indicator == kIndicatorAccount;
 }
 
 void IdleView::LoggedOut() {
@@ -136,12 +169,13 @@ void IdleView::Load(const TransferSnapshot& transfer, std::string_view desktop_n
   memory_.recent_backup = false;
   memory_.user = Now().user;
   view_.title = ScheduledTitle(context_.display_name);
-  view_.status_points = context_.large_fonts ? kSmallPoints : kOrdinaryPoints;
+  view_.status_points = OrdinaryPoints();
   if (desktop_notification == "1") view_.notification_checked = true;
   if (desktop_notification == "0") view_.notification_checked = false;
   Decide(transfer);
   const bool at_home = !Now().user.empty() && !effects_.GivesWay();
   if (at_home && !Now().has_schedule) SetStatusLine(context_.texts.no_schedule);
+  if (at_home) view_.notification_shown = HasNotificationBox(transfer);
   view_.slow_timer = true;
 }
 
@@ -157,10 +191,7 @@ void IdleView::Decide(const TransferSnapshot& transfer) {
   if (transfer.in_progress) return ShowTransfer(transfer);
   // 5.
   LeaveTransfer();
-  if (memory_.idle_user != Now().user) {
-    SetStatusLine("");
-    GetNextTransferTime();
-  }
+  if (memory_.idle_user != Now().user) ChangeUser();
   // 6.
   if (Now().quota.used > Now().quota.max && context_.product_number != 1)
     return ShowQuotaExceeded();
@@ -172,8 +203,12 @@ void IdleView::Decide(const TransferSnapshot& transfer) {
     return NoScheduleText();
   }
   // 8.
+  if (!Now().schedule_read) return;
   const NextRun next = ReadNextRun();
-  if (JobIsRunning()) return ShowScheduledJob();
+  if (JobIsRunning()) {
+    TraceOnLoad("   [INFORMATION] Form-Load: Schedule backup in progress.");
+    return ShowScheduledJob();
+  }
   // 9.
   if (next.line.empty()) {
     TraceOnLoad("   [INFORMATION] Form-Load: schedule Data Exists but no schedule Time");
@@ -201,7 +236,19 @@ void IdleView::ShowTransfer(const TransferSnapshot& transfer) {
 
 void IdleView::LeaveTransfer() {
   const bool was_shown = std::exchange(view_.transfer_shown, false);
-  if (was_shown && view_.status_line.empty()) GetNextTransferTime();
+  const bool left_blank = was_shown && view_.status_line.empty();
+  if (!left_blank && !TellsOfAnEndedRun()) return;
+  if (view_.status_line == context_.texts.job_in_progress) view_.log_enabled = true;
+  SetStatusLine("");
+  GetNextTransferTime();
+}
+
+bool IdleView::TellsOfAnEndedRun() {
+  const std::string& line = view_.status_line;
+  const std::string& in_progress = context_.texts.job_in_progress;
+  if (line == in_progress || line == kContinuousBackup) return true;
+  const bool of_a_job = line == in_progress + "." || line == kJobPaused;
+  return of_a_job && Now().schedule_read && !JobIsRunning();
 }
 
 void IdleView::ShowUnseenTransfer(const TransferSnapshot& transfer) {
@@ -215,31 +262,30 @@ void IdleView::ShowUnseenTransfer(const TransferSnapshot& transfer) {
     view_.space_label_shown = false;
   } else {
     GetNextTransferTime();
-    view_.space_label_shown = true;
+    // Without a figure beside it the label says nothing.
+    view_.space_label_shown = view_.quota_text_shown;
   }
 }
 
 void IdleView::ShowQuotaExceeded() {
   TraceOnLoad("   [INFORMATION] Form-Load Quota is exceeded");
-  if (Now().indicator == kIndicatorQuota && !Now().outcome.empty()) {
-    SetStatusLine(Now().outcome);
+  if (Now().indicator == kIndicatorQuota && Now().outcome != "") {
+    SetOutcome(OrdinaryPoints());
   } else {
     effects_.WriteOutcome(context_.texts.quota_exceeded);
     effects_.WriteIndicator("2");
     SetStatusLine(kQuotaExceededTwoLines, kSmallestPoints);
   }
-  const NextRun next = Now().has_schedule ? ReadNextRun() : NextRun{};
   if (JobIsRunning()) {
     view_.next_line.clear();
     view_.next_line_shown = false;
-  } else {
-    NextLine(next);
+  } else if (Now().schedule_read) {
+    NextLine(Now().has_schedule ? ReadNextRun() : NextRun{});
   }
   QuotaRow();
 }
 
 void IdleView::ShowScheduledJob() {
-  TraceOnLoad("   [INFORMATION] Form-Load: Schedule backup in progress.");
   // The stop is added to the text whatever the text ends in.
   SetStatusLine(Now().paused ? std::string(kJobPaused) : context_.texts.job_in_progress + ".");
   view_.space_label_shown = false;
@@ -255,7 +301,7 @@ void IdleView::ShowLastJob(const NextRun& next) {
   // 10.
   if (ShowsAtOnce()) {
     TraceOnLoad("   [INFORMATION] Form-Load: Quota Exceeded");
-    SetStatusLine(Now().outcome);
+    SetOutcome(OrdinaryPoints());
     return QuotaRow();
   }
   // 11.
@@ -264,7 +310,7 @@ void IdleView::ShowLastJob(const NextRun& next) {
   if (Now().status_window > 1) return;
   if (memory_.refresh_tick_count < kTicksOfOneRefresh && !memory_.force_refresh) return;
   if (Now().indicator == kIndicatorQuota) {
-    SetStatusLine(Now().outcome);
+    SetOutcome(OrdinaryPoints());
     QuotaRow();
   } else {
     RefreshOutcome(next);
@@ -274,14 +320,14 @@ void IdleView::ShowLastJob(const NextRun& next) {
 
 bool IdleView::ShowsAtOnce() {
   if (occasion_ == Occasion::kLoad) return Now().indicator == kIndicatorQuota;
-  return Now().status_window == 1 &&
-         (Now().indicator == kIndicatorQuota || Now().indicator == kIndicatorAccount);
+  return Now().status_window == 1 && MessageIsForTheUser();
 }
 
 void IdleView::RefreshOutcome(const NextRun& next) {
   TellTime(next);
   QuotaRow();
   if (memory_.recent_backup || memory_.force_refresh) {
+    if (!Now().outcome) return;  // the flags stay until it can be read
     TraceOnLoad("   [INFORMATION] Form-Load: Backup completed just before 30min ");
     memory_.recent_backup = false;
     memory_.force_refresh = false;
@@ -315,12 +361,16 @@ const IdleSnapshot& IdleView::Now() {
   return *now_;
 }
 
+int IdleView::OrdinaryPoints() const {
+  return context_.large_fonts ? kSmallPoints : kOrdinaryPoints;
+}
+
 void IdleView::TraceOnLoad(std::string_view line) {
   if (occasion_ == Occasion::kLoad) effects_.Trace(line);
 }
 
 void IdleView::SetStatusLine(std::string_view text) {
-  SetStatusLine(text, context_.large_fonts ? kSmallPoints : kOrdinaryPoints);
+  SetStatusLine(text, OrdinaryPoints());
 }
 
 void IdleView::SetStatusLine(std::string_view text, int points) {

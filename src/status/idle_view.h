@@ -27,8 +27,11 @@ class IdleView {
            const StatusContext& context, ScheduleTexts& schedule);
 
   // Everything the window shows of a user at rest: status line, next-run line and quota row. Leaves
-  // them alone without scheduleData.txt.
+  // them alone without scheduleData.txt, unless the status line would stay blank.
   void GetNextTransferTime();
+
+  // Another user: nothing of the former one's stays.
+  void ChangeUser();
 
   // Shows "used out of allowed" and the bar, or hides the row while the quota is unknown.
   void QuotaRow();
@@ -46,7 +49,8 @@ class IdleView {
   // read once. `desktop_notification` is that value of BackupStatus.
   void Load(const TransferSnapshot& transfer, std::string_view desktop_notification);
 
-  // No transfer runs: away from its view, which had emptied the status line and hidden the quota.
+  // No transfer runs: away from its view, which had emptied the status line and hidden the quota,
+  // and from the text of a run that has ended.
   void LeaveTransfer();
 
   // A transfer that is shown neither here nor by the engine's own window.
@@ -66,15 +70,21 @@ class IdleView {
   void ShowTransfer(const TransferSnapshot& transfer);
   void ShowQuotaExceeded();
   void ShowScheduledJob();
+  bool TellsOfAnEndedRun();
+  void FillBlankStatusLine();
   void ShowLastJob(const NextRun& next);
   void RefreshOutcome(const NextRun& next);
   void NoScheduleText();
+  const std::string& NoScheduleLine();
+  void SetOutcome(int points);
   void ShowOutcome(const NextRun& next);
   void NextLine(const NextRun& next);
   void ShowQuotaBar();
   std::string TellTime(const NextRun& next);
   NextRun ReadNextRun();
   bool JobIsRunning();
+  bool MessageIsForTheUser();
+  int OrdinaryPoints() const;
   bool ShowsAtOnce();
   void TraceOnLoad(std::string_view line);
   const IdleSnapshot& Now();

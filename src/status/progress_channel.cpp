@@ -102,10 +102,12 @@ shared::QuotaStatus ProgressChannel::ReadQuotaStatus() {
   return profile_.ReadQuotaStatus();
 }
 
-std::string ProgressChannel::ReadOutcome() {
+std::optional<std::string> ProgressChannel::ReadOutcome() {
   const std::string path = shared::InUserFolder(state_, kOutcomeFile);
-  if (machine_.files.Exists(path)) return shared::ReadFirstLine(machine_.files, path);
-  return HasFailed() ? std::string(kBackupHasFailed) : std::string();
+  if (!machine_.files.Exists(path)) return std::string(HasFailed() ? kBackupHasFailed : "");
+  const auto text = machine_.files.Read(path, shared::kTextFileLimit);
+  if (!text) return std::nullopt;
+  return std::string(shared::LineOf(*text, 0));
 }
 
 void ProgressChannel::WriteOutcome(std::string_view line) {

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -51,9 +52,9 @@ class ProgressChannel {
   // The profile, section QuotaStatus: bytes used and allowed, see shared/profile_store.h.
   shared::QuotaStatus ReadQuotaStatus();
 
-  // First line of SchStatus.txt. Without that file "Backup has failed" when SchStatusError.txt is
-  // there, else "".
-  std::string ReadOutcome();
+  // First line of SchStatus.txt; nothing while another program keeps the file from being read.
+  // Without that file "Backup has failed" when SchStatusError.txt is there, else "".
+  std::optional<std::string> ReadOutcome();
   // Makes `line` the one line of SchStatus.txt; "" consumes the outcome.
   void WriteOutcome(std::string_view line);
   // SchStatusError.txt is there.

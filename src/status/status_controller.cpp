@@ -25,23 +25,25 @@ void StatusController::Load() {
   view_ = {};
   memory_ = {};
   sliding_.reset();
-  const StatusContext context = ReadContext();
-  StatusEffects effects;
-  TakeForceRefresh();
-  shared::ProfileStore(machine_, state_).RefreshCurrentUser();
-  MakeIdleView(effects, context)
-      .Load(ReadTransfer(), channel_.ReadBackupStatus(kDesktopNotification));
-  GiveForceRefresh();
-  Finish(effects);
+  Decide([this](IdleView& idle) {
+    idle.Load(ReadTransfer(), channel_.ReadBackupStatus(kDesktopNotification));
+  });
 }
 
 void StatusController::SlowTick() {
+  Decide([this](IdleView& idle) { idle.Periodic(ReadTransfer()); });
+}
+
+void StatusController::Decide(const std::function<void(IdleView&)>& decide) {
   const StatusContext context = ReadContext();
   StatusEffects effects;
-  TakeForceRefresh();
+  const bool forced = state_.ForceStatusRefresh;
+  memory_.force_refresh = forced;
   shared::ProfileStore(machine_, state_).RefreshCurrentUser();
-  MakeIdleView(effects, context).Periodic(ReadTransfer());
-  GiveForceRefresh();
+  IdleView idle = MakeIdleView(effects, context);
+  decide(idle);
+  // Reading pumps: what the tray's tick forced meanwhile is for the next decision.
+  if (forced) state_.ForceStatusRefresh = memory_.force_refresh;
   Finish(effects);
 }
 

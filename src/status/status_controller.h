@@ -8,6 +8,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -79,8 +80,7 @@ class StatusController {
   void Render();
   void Apply(const StatusEffects& effects);
   void TraceLine(std::string_view line);
-  void TakeForceRefresh() { memory_.force_refresh = state_.ForceStatusRefresh; }
-  void GiveForceRefresh() { state_.ForceStatusRefresh = memory_.force_refresh; }
+  void Decide(const std::function<void(IdleView&)>& decide);
   void RefreshTransfer();
   void ReturnToIdle();
   std::string PausedTip(std::string_view job) const;

@@ -64,9 +64,10 @@ IdleSnapshot ReadIdleSnapshot(platform::Platform& machine, shared::AgentState& s
   now.has_schedule = channel.HasSchedule();
   if (now.has_schedule) {
     const std::string path = shared::InUserFolder(state, kScheduleDataFile);
-    const std::string head = machine.files.Read(path, shared::kTextFileLimit).value_or("");
-    now.job_kind = shared::LineOf(head, 0);
-    now.second_line = shared::LineOf(head, 1);
+    const auto head = machine.files.Read(path, shared::kTextFileLimit);
+    now.schedule_read = head.has_value();
+    now.job_kind = shared::LineOf(head.value_or(""), 0);
+    now.second_line = shared::LineOf(head.value_or(""), 1);
   }
   now.paused = channel.SyncPaused();
   now.indicator = channel.ReadBackupStatusInt(kMessageIndicator);

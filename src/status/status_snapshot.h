@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "platform/platform.h"
@@ -20,14 +21,15 @@ struct IdleSnapshot {
   bool schedule_disabled = false;  // ScheduleDisable is "TRUE"
   std::int16_t rt_backup = 0;      // RTBackup
   bool has_schedule = false;       // scheduleData.txt is there
+  bool schedule_read = true;       // and no other program keeps it from being read
   std::string job_kind;            // its first line
   std::string second_line;         // its second line: the first record
   bool paused = false;
-  std::int16_t indicator = 0;      // StatusMessageIndicaton
-  std::int16_t status_window = 0;  // StatusWindow
-  std::string outcome;             // see ProgressChannel::ReadOutcome
-  std::string last_run;            // SchEndTime
-  std::string short_date;          // the locale's short date format
+  std::int16_t indicator = 0;               // StatusMessageIndicaton
+  std::int16_t status_window = 0;           // StatusWindow
+  std::optional<std::string> outcome = "";  // see ProgressChannel::ReadOutcome
+  std::string last_run;                     // SchEndTime
+  std::string short_date;                   // the locale's short date format
   std::string decimal_separator;
 };
 

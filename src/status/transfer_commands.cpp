@@ -83,14 +83,14 @@ void StatusController::ResetStatusWindow() {
   // 1.
   const std::string job = channel_.ReadProgWnd(kProgWndJob);
   channel_.ResetProgressFile();
-  // 2.
+  // 2. The transfer had hidden what stands around the status line in either case.
   std::string stored;
+  idle.SetStatusLine("");
+  idle.GetNextTransferTime();
   if (job == kJobScheduled) {
     stored = context.texts.job_canceled;
     idle.SetStatusLine(stored);
   } else {
-    idle.SetStatusLine("");
-    idle.GetNextTransferTime();
     view_.title = ScheduledTitle(context.display_name);
   }
   Apply(effects);

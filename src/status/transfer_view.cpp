@@ -126,4 +126,8 @@ void SetTitleOfTick(StatusView& view, const TransferSnapshot& transfer,
   }
 }
 
+bool HasNotificationBox(const TransferSnapshot& transfer) {
+  return !transfer.in_progress || transfer.job == kJobScheduled;
+}
+
 }  // namespace status

@@ -31,4 +31,7 @@ std::string WrapFilePath(std::string_view path, bool large_fonts);
 void SetTitleOfTick(StatusView& view, const TransferSnapshot& transfer,
                     const StatusContext& context);
 
+// "Show this dialog after each schedule backup" belongs to scheduled jobs and to rest.
+bool HasNotificationBox(const TransferSnapshot& transfer);
+
 }  // namespace status

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "shared/keys.h"
+#include "status/progress_channel.h"
 #include "status/progress_keys.h"
 #include "tests/agent/effects.h"
 #include "tests/agent/installed_agent.h"
@@ -136,6 +137,50 @@ TEST_F(StatusWindowTest, TheEnginesOwnWindowMakesItGiveWay) {
   agent_.machine.Run(2000);
   EXPECT_FALSE(IsOpen());
   EXPECT_FALSE(agent_.Item("mnuStatus").Enabled());
+}
+
+struct CancelCase {
+  std::string_view job;
+  std::string_view question;
+  std::string_view outcome;
+};
+
+constexpr CancelCase kCancels[] = {
+    {"1", "ask Are you sure you want to cancel the backup operation ?", "\r\n"},
+    {"2", "ask Are you sure you want to cancel the backup operation ?",
+     "All your files/folders could not be backed up as the scheduled job was manually "
+     "canceled.\r\n"},
+    {"3", "ask Are you sure you want to cancel the restore operation ?", "\r\n"},
+};
+
+TEST(StatusWindowCancel, OfEachJobEndsTheEngineAndLeavesItsOutcome) {
+  for (const CancelCase& one : kCancels) {
+    SCOPED_TRACE(one.job);
+    InstalledAgent agent;
+    agent.machine.processes().Start(agent.Path("SorvaneEClsClient.exe"));
+    agent.PutUserFile(status::kScheduleDataFile, one.job == "2" ? "1\r\n" : "0\r\n");
+    const bool restore = one.job == "3";
+    agent.SetProgress(restore ? status::kRestoreProgressSection : status::kBackupProgressSection,
+                      restore ? status::kRestoreInProgress : status::kBackupInProgress, "1");
+    agent.SetProgress(status::kProgWndSection, status::kProgWndStatus, "0");
+    agent.SetProgress(status::kProgWndSection, status::kProgWndValue, "7");
+    agent.SetProgress(status::kProgWndSection, status::kProgWndJob, one.job);
+    ASSERT_TRUE(agent.Start());
+    agent.StopTimers();
+    agent.host.ChooseFromMenu("mnuStatus");
+    agent.RightClick();
+    agent.host.AnswerWith("Continue");
+    agent.machine.journal().Clear();
+    agent.host.Click(kWindow, "cmd_ProgCancel");
+    EXPECT_THAT(Effects(agent), Contains(std::string(one.question)));
+    EXPECT_EQ(agent.host.Find(kWindow), nullptr);
+    EXPECT_FALSE(agent.machine.processes().IsRunning("SorvaneEClsClient.exe"));
+    EXPECT_EQ(agent.Status(status::kCancel), "1");
+    EXPECT_EQ(agent.Status(status::kPaused), "0");
+    EXPECT_EQ(agent.machine.files().Content(agent.UserPath(status::kOutcomeFile)), one.outcome);
+    EXPECT_FALSE(
+        status::ProgressChannel(agent.machine.platform(), agent.state()).IsTransferInProgress());
+  }
 }
 
 TEST_F(StatusWindowTest, ACancelledInteractiveBackupLeavesACleanChannel) {

@@ -130,6 +130,82 @@ TEST_F(FastTickTest, ClearsTheTextOfTheRunningJobWhenItHasEnded) {
   EXPECT_TRUE(view.log_enabled);
 }
 
+TEST_F(FastTickTest, SaysAtOnceThatNothingIsScheduledForTheUserWhoLoggedIn) {
+  now.user = "";
+  Fast();
+  now.user = "bert";
+  now.has_schedule = false;
+  Fast();
+  EXPECT_EQ(view.status_line, context.texts.no_schedule);
+  EXPECT_FALSE(view.next_line_shown);
+  EXPECT_EQ(view.quota_text, "1.5 KB out of 4.0 KB");
+}
+
+TEST_F(FastTickTest, LeavesNothingOfTheFormerUserInTheNextLine) {
+  view.next_line = "Your next backup will occur on  01-01-2011 10:30:00";
+  now.user = "bert";
+  now.schedule_disabled = true;
+  Fast();
+  EXPECT_EQ(view.status_line, context.texts.schedule_disabled);
+  EXPECT_EQ(view.next_line, "");
+}
+
+TEST_F(FastTickTest, SaysAtOnceBehindATransferThatNothingIsScheduled) {
+  now.has_schedule = false;
+  for (const std::int32_t window : {66304, 0}) {
+    Transfer("1", "0", window);
+    Fast();
+    EXPECT_EQ(view.transfer_shown, window > 0);
+    transfer = {};
+    Fast();
+    EXPECT_EQ(view.status_line, context.texts.no_schedule);
+    EXPECT_TRUE(view.quota_bar_shown && view.space_label_shown);
+  }
+}
+
+TEST_F(FastTickTest, TakesTheContinuousBackupsTextAwayWithItsRun) {
+  Transfer("", "0", 0);
+  transfer.rt_backup = 1;
+  Fast();
+  transfer.in_progress = false;
+  Fast();
+  EXPECT_EQ(view.title, "Sorvane - Scheduled Backup Status");
+  EXPECT_EQ(view.status_line, "Backup will start in next 2 hour(s).");
+}
+
+TEST_F(FastTickTest, TakesTheScheduledJobsTextAwayWhenTheScheduleSaysThatItEnded) {
+  for (const bool paused : {false, true}) {
+    now.job_kind = "1";
+    now.paused = paused;
+    Tick();
+    const std::string running = view.status_line;
+    Fast();
+    EXPECT_EQ(view.status_line, running);
+    now.schedule_read = false;  // the engine is writing it
+    Fast();
+    EXPECT_EQ(view.status_line, running);
+    now.schedule_read = true;
+    now.job_kind = "0";
+    Fast();
+    EXPECT_EQ(view.status_line, "Backup will start in next 2 hour(s).");
+    EXPECT_TRUE(view.next_line_shown && view.quota_bar_shown && view.quota_text_shown);
+  }
+}
+
+TEST_F(FastTickTest, SaysDuringAnUnseenRestoreWithoutAScheduleThatThereIsNone) {
+  now.has_schedule = false;
+  Transfer("3", "0", 66304);
+  Fast();
+  transfer.window_value = 0;
+  Fast();
+  EXPECT_EQ(view.status_line, context.texts.no_schedule);
+  EXPECT_TRUE(view.space_label_shown && view.quota_text_shown);
+  now.quota = {};
+  Fast();
+  Tick();
+  EXPECT_EQ(view.space_label_shown, view.quota_text_shown);
+}
+
 TEST_F(FastTickTest, TellsTheTimeAndTheQuotaAgainBehindTheTransferView) {
   Transfer("1", "0", 66304);
   Fast();

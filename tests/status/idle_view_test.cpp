@@ -118,6 +118,81 @@ TEST_F(IdleViewTest, RefreshesOnceAMinute) {
   }
 }
 
+TEST_F(IdleViewTest, KeepsTheEarlierTextsWhileTheScheduleCannotBeRead) {
+  now.schedule_read = false;
+  now.job_kind = now.second_line = "";
+  memory.force_refresh = true;
+  for (int tick = 0; tick < 7; ++tick) Tick();
+  EXPECT_EQ(view.status_line, "before");
+  EXPECT_EQ(view.next_line, "before");
+  EXPECT_TRUE(memory.force_refresh);
+  EXPECT_TRUE(effects.InOrder().empty());
+  // Also below the message that the quota is exceeded.
+  now.quota = {2, 1};
+  Tick();
+  EXPECT_EQ(view.next_line, "before");
+}
+
+TEST_F(IdleViewTest, TellsTheTimeAsSoonAsTheScheduleCanBeRead) {
+  view = {};
+  memory = {};
+  now.schedule_read = false;
+  Load();
+  EXPECT_EQ(view.status_line, "");
+  now.schedule_read = true;
+  Tick();
+  EXPECT_EQ(view.status_line, "Backup will start in next 2 hour(s).");
+}
+
+TEST_F(IdleViewTest, ShowsAForcedOutcomeAsSoonAsItCanBeRead) {
+  memory.force_refresh = true;
+  now.outcome = std::nullopt;
+  Tick();
+  EXPECT_EQ(view.status_line, "before");
+  EXPECT_TRUE(memory.force_refresh);
+  now.outcome = "4 files backed up.";
+  Tick();
+  EXPECT_EQ(view.status_line, "4 files backed up.");
+  EXPECT_FALSE(memory.force_refresh);
+}
+
+TEST_F(IdleViewTest, ShowsAnEmptyOutcomeAsItIs) {
+  memory.force_refresh = true;
+  Tick();
+  EXPECT_EQ(view.status_line, "");
+  EXPECT_EQ(view.next_line, "Your next backup will occur on  02-15-2011 10:30:00");
+}
+
+TEST_F(IdleViewTest, SaysInThePartnersEditionThatTheScheduleIsDisabled) {
+  context.product_number = 1;
+  now.schedule_disabled = true;
+  schedule.next = {"You have disabled your scheduled job.", ""};
+  view = {};
+  memory = {};
+  Load();
+  EXPECT_EQ(view.status_line, context.texts.schedule_disabled);
+}
+
+TEST_F(IdleViewTest, TellsOfARunningJobThatHasNoNextRun) {
+  view = {};
+  memory = {};
+  now.job_kind = "1";
+  now.second_line = "";
+  now.user = "bert";
+  Rules().ChangeUser();
+  EXPECT_EQ(view.status_line, "The scheduled backup job is in progress..");
+}
+
+TEST_F(IdleViewTest, ShowsTheBoxAtTheLoadOnlyAtRestAndForScheduledJobs) {
+  for (const std::string_view job : {"", "1", "2", "3"}) {
+    transfer.in_progress = !job.empty();
+    transfer.backup = "1";
+    transfer.job = job;
+    Load();
+    EXPECT_EQ(view.notification_shown, job.empty() || job == "2") << job;
+  }
+}
+
 TEST_F(IdleViewTest, RefreshesAtOnceWhenForced) {
   memory.force_refresh = true;
   now.outcome = "4 files backed up.";

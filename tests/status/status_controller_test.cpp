@@ -166,12 +166,34 @@ TEST_F(StatusControllerTest, ChangesNothingInTheChannelWhenItCloses) {
 }
 
 TEST_F(StatusControllerTest, KeepsTheEarlierTextsWhenEveryReadFails) {
-  window.FastTick();
+  const StatusView before = View();
   machine.gate().FailAll("files.Read");
-  const std::string line = View().status_line;
+  state.ForceStatusRefresh = true;
   window.FastTick();
-  EXPECT_EQ(View().status_line, line);
+  window.SlowTick();
+  EXPECT_EQ(View(), before);
   EXPECT_TRUE(View().slow_timer && View().fast_timer);
+}
+
+TEST_F(StatusControllerTest, KeepsTheEarlierTextsWhileTheEngineWritesItsFiles) {
+  machine.LockFile(Path("scheduleData.txt"));
+  window.SlowTick();
+  EXPECT_EQ(View().status_line, "Backup will start in next 2 hour(s).");
+  machine.UnlockFile(Path("scheduleData.txt"));
+  machine.files().Put(Path("SchStatus.txt"), "4 files backed up.\r\n");
+  machine.LockFile(Path("SchStatus.txt"));
+  state.ForceStatusRefresh = true;
+  window.SlowTick();
+  EXPECT_EQ(View().status_line, "Backup will start in next 2 hour(s).");
+  machine.UnlockFile(Path("SchStatus.txt"));
+  window.SlowTick();
+  EXPECT_EQ(View().status_line, "4 files backed up.");
+}
+
+TEST_F(StatusControllerTest, LosesNoRefreshThatIsForcedWhileItReads) {
+  machine.WhenPumped([this] { state.ForceStatusRefresh = true; });
+  window.SlowTick();
+  EXPECT_TRUE(state.ForceStatusRefresh);
 }
 
 }  // namespace

@@ -151,6 +151,17 @@ TEST_F(TransferCommands, LeaveTheOutcomeOfACanceledScheduledJob) {
   EXPECT_TRUE(View().notification_shown && View().slow_timer && View().fast_timer);
 }
 
+TEST_F(TransferCommands, BringBackWhatTheTransferHadHidden) {
+  for (const std::string_view job : {"1", "2", "3"}) {
+    StartTransfer(job);
+    window.FastTick();
+    EXPECT_FALSE(View().quota_bar_shown);
+    window.ResetStatusWindow();
+    EXPECT_TRUE(View().quota_bar_shown && View().quota_text_shown && View().space_label_shown);
+    EXPECT_EQ(View().next_line, "Your next backup will occur on  02-15-2011 10:30:00");
+  }
+}
+
 TEST_F(TransferCommands, LetNoTickSeeAHalfCanceledJob) {
   StartTransfer("1");
   window.FastTick();
