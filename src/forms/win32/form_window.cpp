@@ -121,6 +121,7 @@ void FormWindow::Update(const Control* control, Property property) {
     if (control->Kind() == ControlKind::kFrame && property == Property::kVisible) {
       for (const auto& child : children_) child->Update(Property::kVisible);
     }
+    if (property == Property::kVisible || property == Property::kEnabled) RescueFocus();
   } else if (property == Property::kText) {
     SetWindowTextA(window_.get(), form_.Caption().c_str());
   } else if (property == Property::kEnabled) {
@@ -226,7 +227,21 @@ void FormWindow::SetOwner(HWND owner) {
 
 void FormWindow::GiveFirstFocus() {
   if (ChildOf(GetFocus()) != nullptr) return;
+  const bool knows_last = last_focus_ && last_focus_->Shown() && last_focus_->Enabled();
+  if (const Control* first = knows_last ? last_focus_ : form_.FirstStop()) SetFocus(*first);
+}
+
+// A control that goes or is disabled must not take the keyboard with it: no key would reach the
+// window any more, Escape included.
+void FormWindow::RescueFocus() {
+  if (GetActiveWindow() != window_.get()) return;
+  const Control* const control = ControlOf(GetFocus());
+  if (control && control->Shown() && control->Enabled()) return;
   if (const Control* first = form_.FirstStop()) SetFocus(*first);
+}
+
+void FormWindow::NoteFocus() {
+  if (const Control* const control = ControlOf(GetFocus())) last_focus_ = control;
 }
 
 void FormWindow::SetFocus(const Control& control) {
@@ -342,6 +357,9 @@ LRESULT FormWindow::HandleOwn(UINT message, WPARAM wparam, LPARAM lparam) {
       if (form_.MousePointer() != Pointer::kBusy) break;
       SetCursor(LoadCursorA(nullptr, IDC_WAIT));
       return TRUE;
+    case WM_ACTIVATE:
+      if (LOWORD(wparam) == WA_INACTIVE) NoteFocus();
+      break;
     case WM_SETFOCUS:
       GiveFirstFocus();
       return 0;

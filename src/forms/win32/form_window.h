@@ -34,6 +34,8 @@ class FormWindow {
   void SetState(WindowState state);
   void SetOwner(HWND owner);
   void SetFocus(const Control& control);
+  // The keyboard comes back to the control that has it now.
+  void NoteFocus();
 
   HWND WindowOf(const Control& control) const;
   // The control that a window belongs to; null for none.
@@ -59,12 +61,14 @@ class FormWindow {
   void DrawItem(const DRAWITEMSTRUCT& item);
   void ChangeDpi(const RECT& suggested);
   void GiveFirstFocus();
+  void RescueFocus();
   void ShowPointer();
 
   Form& form_;
   Screen& screen_;
   platform::win32::ScopedWindow window_;
   std::vector<std::unique_ptr<Child>> children_;
+  const Control* last_focus_ = nullptr;
   Pointer shown_pointer_ = Pointer::kDefault;
   bool closed_ = false;
   bool placed_ = false;

@@ -131,6 +131,7 @@ void Host::BeginModal(const FormWindow& window) {
   Modal modal = {&window.Model(), {}};
   for (const auto& other : windows_) {
     if (other.get() == &window || !IsWindowEnabled(other->Handle())) continue;
+    other->NoteFocus();
     EnableWindow(other->Handle(), FALSE);
     modal.disabled.push_back(other->Handle());
   }

@@ -172,6 +172,31 @@ TEST_F(RendererTest, TabMovesTheKeyboardInTheOrderOfTheMembers) {
   EXPECT_TRUE(form_.txtName.HasFocus());
 }
 
+TEST_F(RendererTest, ControlThatGoesOrIsDisabledLeavesTheKeyboardToAnother) {
+  form_.BringToFront();
+  form_.txtName.SetFocus();
+  form_.txtName.SetEnabled(false);
+  EXPECT_EQ(GetFocus(), WindowOf(*form_.FirstStop()));
+  form_.cmdOk.SetFocus();
+  form_.cmdOk.SetVisible(false);
+  EXPECT_EQ(GetFocus(), WindowOf(*form_.FirstStop()));
+  form_.cmdClose.SetFocus();
+  form_.fraButtons.Hold({&form_.cmdClose});
+  form_.fraButtons.SetVisible(false);
+  EXPECT_EQ(GetFocus(), WindowOf(*form_.FirstStop()));
+}
+
+TEST_F(RendererTest, KeyboardReturnsFromAQuestionToWhereItWas) {
+  form_.BringToFront();
+  form_.cmdClose.SetFocus();
+  bool answer = false;
+  frmGeneralMessage question(screen_.host, answer);
+  screen_.PressSoon(VK_ESCAPE);
+  question.ShowMessage("Cancel?", "Yes", "No", true, true, "question", &form_);
+  screen_.Settle();
+  EXPECT_EQ(GetFocus(), WindowOf(form_.cmdClose));
+}
+
 TEST_F(RendererTest, MessageHandlerComesBeforeTheWindow) {
   form_.Load();
   form_.on_message = [](std::uint32_t message, std::uintptr_t wparam,
