@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "schedule/tool_tips.h"
 #include "status/bandwidth.h"
 
 namespace status {
@@ -34,11 +35,21 @@ frmStatus::frmStatus(forms::FormHost& host, platform::Platform& machine, shared:
   for (forms::Label* grip : {&Label1, &Label2, &Label4}) grip->SetDragsWindow(true);
   ProgressBarXP1.SetMaximum(kTransferBarMaximum);
   QuotaProgressbar.SetMaximum(kQuotaBarMaximum);
-  PictSliderBox2.SetText("slider_box");
+  NameForReaders();
   Nest();
   Arm();
   ArmSlider();
   SetLayout(Layout());
+  // The box comes first by its place; the keyboard starts where it can do no harm.
+  SetFirstStop(&Cmd_Yes);
+}
+
+// Bars and the slider show no text of their own: it is what a screen reader calls them.
+void frmStatus::NameForReaders() {
+  QuotaProgressbar.SetText("Space Used");
+  ProgressBarXP1.SetText("Progress");
+  Slider2.SetText(Label7.Text());
+  PictSliderBox2.SetText("slider_box");
 }
 
 void frmStatus::Arm() {
@@ -67,14 +78,26 @@ void frmStatus::Arm() {
   imgProgAutoPause.on_click = chkAutoPause.on_click;
   chkDesNotify1.on_click = [this] { controller_.NotificationClick(chkDesNotify1.Checked()); };
 
-  SwapOnHover(Cmd_Yes, imgViewLog);
-  SwapOnHover(Cmd_No, imgClose);
+  const std::string_view log_tip = schedule::GetToolTipText("frmStatus.Cmd_Yes");
+  SwapOnHover(Cmd_Yes, imgViewLog, log_tip);
+  SwapOnHover(Cmd_No, imgClose, schedule::GetToolTipText("frmStatus.Cmd_No"));
   SwapOnHover(cmd_ProgCancel, imgProgCancel);
-  SwapOnHover(Cmd_ProgViewLog, imgProgViewLog);
+  SwapOnHover(Cmd_ProgViewLog, imgProgViewLog, log_tip);
   Image2.on_mouse_move = [this](Point) {
-    ShowTip(Image2, Image2.PictureKey() == "hide" ? "Hide" : "Close");
+    const bool hides = Image2.PictureKey() == "hide";
+    ShowTip(Image2, hides ? "Hide" : schedule::GetToolTipText("frmStatus.Image2"));
   };
   BkupFilepath.on_mouse_move = [this](Point) { ShowTip(BkupFilepath, BkupFilepath.Text()); };
+  // A path that is longer than its box can be read with the arrow keys, too.
+  BkupFilepath.SetTabStop(true);
+  MarkOnFocus(BkupFilepath, lblBackup);
+}
+
+// These controls show no ring of their own.
+void frmStatus::MarkOnFocus(forms::Control& control, forms::Label& mark) {
+  const forms::Colour plain = mark.TextColour();
+  control.on_focus = [&mark] { mark.SetTextColour(forms::theme::kAccent); };
+  control.on_blur = [&mark, plain] { mark.SetTextColour(plain); };
 }
 
 void frmStatus::ArmSlider() {
@@ -82,8 +105,7 @@ void frmStatus::ArmSlider() {
     controller_.SliderMove(static_cast<std::int16_t>(Slider2.Value()));
     controller_.SliderRelease();
   };
-  Slider2.on_focus = [this] { LabelBand.SetTextColour(forms::theme::kAccent); };
-  Slider2.on_blur = [this] { LabelBand.SetTextColour(forms::theme::kText); };
+  MarkOnFocus(Slider2, LabelBand);
   PictSliderKnob2.on_mouse_down = [this](Point place) { grabbed_ = place.x; };
   PictSliderKnob2.on_mouse_move = [this](Point place) { DragKnob(place); };
   PictSliderKnob2.on_mouse_up = [this](Point) {
@@ -113,8 +135,11 @@ void frmStatus::DragKnob(Point place) {
   if (KnobMayStand(Box(), left, kOverhang)) controller_.SliderMove(KnobValue(Box(), left));
 }
 
-void frmStatus::SwapOnHover(forms::Button& button, forms::Picture& picture) {
-  button.on_mouse_move = [&picture](Point) { picture.SetPicture(kHoverPicture); };
+void frmStatus::SwapOnHover(forms::Button& button, forms::Picture& picture, std::string_view tip) {
+  button.on_mouse_move = [this, &button, &picture, tip](Point) {
+    picture.SetPicture(kHoverPicture);
+    ShowTip(button, tip);
+  };
   button.on_mouse_leave = [&picture] { picture.SetPicture(kPlainPicture); };
 }
 
@@ -127,7 +152,8 @@ void frmStatus::MakeToolTips() {
 // The tip is renewed at each move, so that it has the control's text of that moment.
 void frmStatus::ShowTip(const forms::Control& control, std::string_view text) {
   if (tipped_ != platform::kNoWindow) tips_.RemoveToolTip(tipped_);
-  tipped_ = control.Window();
+  tipped_ = text.empty() ? platform::kNoWindow : control.Window();
+  if (text.empty()) return;
   tips_.AddTool(tipped_, text);
 }
 
@@ -152,19 +178,27 @@ void frmStatus::Render(const StatusView& view) {
   Image2.SetPicture(view.transfer_shown ? "hide" : "close");
   chkDesNotify1.SetVisible(view.notification_shown);
   chkDesNotify1.SetChecked(view.notification_checked);
-  idleFrame.SetVisible(!view.transfer_shown);
-  progressFrame.SetVisible(view.transfer_shown);
-  for (forms::Control* log :
-       {static_cast<forms::Control*>(&Cmd_Yes), static_cast<forms::Control*>(&imgViewLog)}) {
-    log->SetVisible(!view.transfer_shown);
-    log->SetEnabled(view.log_enabled);
-  }
-  Cmd_ProgViewLog.SetVisible(view.transfer_shown);
-  imgProgViewLog.SetVisible(view.transfer_shown);
   RenderIdle(view);
   RenderTransfer(view);
+  TurnFaces(view);
   frmStatusTimer.SetEnabled(view.slow_timer);
   TmrCheckPause.SetEnabled(view.fast_timer);
+}
+
+// The keyboard goes from one button of the log to the other.
+void frmStatus::TurnFaces(const StatusView& view) {
+  const bool turns = progressFrame.Visible() != view.transfer_shown;
+  const bool on_log = turns && (Cmd_Yes.HasFocus() || Cmd_ProgViewLog.HasFocus());
+  idleFrame.SetVisible(!view.transfer_shown);
+  progressFrame.SetVisible(view.transfer_shown);
+  Cmd_ProgViewLog.SetVisible(view.transfer_shown);
+  imgProgViewLog.SetVisible(view.transfer_shown);
+  for (forms::Control* log :
+       {static_cast<forms::Control*>(&Cmd_Yes), static_cast<forms::Control*>(&imgViewLog)}) {
+    log->SetEnabled(view.log_enabled);
+    log->SetVisible(!view.transfer_shown);
+  }
+  if (on_log) (view.transfer_shown ? Cmd_ProgViewLog : Cmd_Yes).SetFocus();
 }
 
 void frmStatus::RenderIdle(const StatusView& view) {

@@ -33,6 +33,7 @@ class frmStatus : public forms::Form, private StatusScreen {
   void Render(const StatusView& view) override;
   void SetShown(bool shown) override;
 
+  void TurnFaces(const StatusView& view);
   void RenderIdle(const StatusView& view);
   void RenderTransfer(const StatusView& view);
   void RenderBandwidth(const BandwidthPanel& panel);
@@ -43,7 +44,9 @@ class frmStatus : public forms::Form, private StatusScreen {
   forms::Cell Layout();
   void MakeToolTips();
   void ShowTip(const forms::Control& control, std::string_view text);
-  void SwapOnHover(forms::Button& button, forms::Picture& picture);
+  void SwapOnHover(forms::Button& button, forms::Picture& picture, std::string_view tip = {});
+  void NameForReaders();
+  void MarkOnFocus(forms::Control& control, forms::Label& mark);
   void PlaceSlider();
   void DragKnob(forms::Point place);
   SliderBox Box() const;
@@ -96,14 +99,14 @@ class frmStatus : public forms::Form, private StatusScreen {
                                 forms::LabelStyle::kMuted};
 
   // Below both.
+  forms::CheckBox chkDesNotify1{*this, "chkDesNotify1",
+                                "Show this dialog after each schedule backup"};
   forms::Button Cmd_ProgViewLog{*this, "Cmd_ProgViewLog", "View Log"};
   forms::Picture imgProgViewLog{*this, "imgProgViewLog", "Small Btn1", {16, 16}};
   forms::Button Cmd_Yes{*this, "Cmd_Yes", "View Log"};
   forms::Picture imgViewLog{*this, "imgViewLog", "Small Btn1", {16, 16}};
   forms::Button Cmd_No{*this, "Cmd_No", "Close", forms::ButtonRole::kCancel};
   forms::Picture imgClose{*this, "imgClose", "Small Btn1", {16, 16}};
-  forms::CheckBox chkDesNotify1{*this, "chkDesNotify1",
-                                "Show this dialog after each schedule backup"};
 
   // Grounds, and the groups that are shown and hidden together.
   forms::Frame fraTitle{*this, "fraTitle", forms::theme::kWindow};

@@ -17,9 +17,10 @@ namespace theme = forms::theme;
 constexpr int kTitlePadding = 10;
 constexpr int kTitleHeight = 22;
 constexpr int kLabelColumn = 100;
-constexpr int kFaceHeight = 278;
-constexpr int kCardHeight = 158;
+constexpr int kFaceHeight = 282;
+constexpr int kCardHeight = 162;
 constexpr int kCardPadding = 24;
+constexpr int kCardText = 300;  // the least; the texts wrap in what there is
 constexpr int kIdleGap = 12;
 constexpr int kPathHeight = 40;
 constexpr int kCounterColumn = 230;
@@ -81,7 +82,9 @@ Cell frmStatus::Layout() {
              Line({Item(lblSpaceUsed).Width(kLabelColumn), Item(lblQuotaInfo).Grow()}),
              Item(QuotaProgressbar), Space(theme::kGap),
              Pile({Item(fraStatus).Height(kCardHeight),
-                   Line({Item(imgStatus), Stack({Item(lblHoursInfo), Item(lblBkupInfo)}).Grow()})
+                   Line({Item(imgStatus), Stack({Item(lblHoursInfo).Width(kCardText).Grow(),
+                                                 Item(lblBkupInfo).Width(kCardText).Grow()})
+                                              .Grow()})
                        .Gap(theme::kMargin)
                        .Padding(kCardPadding)})})
           .Gap(kIdleGap);

@@ -1,11 +1,10 @@
-#include "status/ui/frm_status.h"
-
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "forms/memory/dump.h"
-#include "forms/memory/host.h"
 #include "tests/forms/golden.h"
-#include "tests/status/controller_fixture.h"
+#include "tests/status/ui/frm_status_fixture.h"
 
 namespace status {
 namespace {
@@ -13,34 +12,7 @@ namespace {
 using forms::testing::Golden;
 using Lines = std::vector<std::string>;
 
-class FrmStatusTest : public testing::Test, public StatusMachine {
- protected:
-  FrmStatusTest() {
-    machine.files().Put(Path("scheduleData.txt"), "0\r\n" + std::string(kRecord) + "\r\n");
-    SetQuota("1536", "4096");
-  }
-
-  std::string Text(std::string_view control) { return host.Read("frmStatus", control); }
-  forms::Control& At(std::string_view control) { return host.At("frmStatus", control); }
-  bool Shown(std::string_view control) { return At(control).Shown(); }
-  void Click(std::string_view control) { host.Click("frmStatus", control); }
-  void ShowBackup() {
-    StartTransfer("1");
-    SetProgress("BackupProgressInfo", "FileName", "C:\\Users\\anna\\Pictures\\summer.jpg");
-    SetProgress("BackupProgressInfo", "Total Progress", "12 MB of 40 MB");
-    SetProgress("BackupProgressInfo", "Percentage", "57%");
-    SetProgress("BackupProgressInfo", "Backedup Files", "7");
-    window.Show();
-  }
-
-  ToldSchedule schedule;
-  RecordedCommands commands;
-  ToldMessages messages;
-  Lines seen;
-  forms::memory::Host host{machine.platform().events,
-                           [this](const std::string& line) { seen.push_back(line); }};
-  frmStatus window{host, machine.platform(), state, {schedule, commands, messages}};
-};
+class FrmStatusTest : public testing::Test, public FrmStatusFixture {};
 
 TEST_F(FrmStatusTest, ShowsTheUserAtRest) {
   window.Show();
@@ -73,23 +45,6 @@ TEST_F(FrmStatusTest, FollowsTheFiguresOnItsFastTimer) {
   EXPECT_EQ(Text("lblFileCountBkup"), "Backedup files: 7");
   machine.Run(1);
   EXPECT_EQ(Text("lblFileCountBkup"), "Backedup files: 8");
-}
-
-TEST_F(FrmStatusTest, ChangesNoPropertyWhileTheChannelStaysTheSame) {
-  window.Show();
-  machine.Run(2000);
-  const int at_rest = window.Changes();
-  machine.Run(20000);
-  EXPECT_EQ(window.Changes(), at_rest);
-}
-
-TEST_F(FrmStatusTest, ChangesNoPropertyWhileTheTransferStaysTheSame) {
-  ShowBackup();
-  Set("Paused", "1");
-  machine.Run(2000);
-  const int in_transfer = window.Changes();
-  machine.Run(20000);
-  EXPECT_EQ(window.Changes(), in_transfer);
 }
 
 TEST_F(FrmStatusTest, PausesAndResumes) {
@@ -254,6 +209,23 @@ TEST_F(FrmStatusTest, SwapsThePicturesOfItsButtonsUnderTheMouse) {
   EXPECT_EQ(Text("imgViewLog"), "Small Btn2");
   At("Cmd_Yes").on_mouse_leave();
   EXPECT_EQ(Text("imgViewLog"), "Small Btn1");
+}
+
+TEST_F(FrmStatusTest, TellsWhatItsButtonsDo) {
+  window.Show();
+  host.MoveOver("frmStatus", "Cmd_Yes");
+  EXPECT_EQ(seen.back(), "tip \"View the log\"");
+  host.MoveOver("frmStatus", "Cmd_No");
+  EXPECT_EQ(seen.back(), "tip \"Close\"");
+  StartTransfer("1");
+  machine.Run(2000);
+  host.MoveOver("frmStatus", "Cmd_ProgViewLog");
+  EXPECT_EQ(seen.back(), "tip \"View the log\"");
+  const std::size_t told = seen.size();
+  host.MoveOver("frmStatus", "cmd_ProgCancel");
+  EXPECT_EQ(std::ranges::count_if(seen.begin() + static_cast<std::ptrdiff_t>(told), seen.end(),
+                                  [](const std::string& line) { return line.starts_with("tip"); }),
+            0);
 }
 
 TEST_F(FrmStatusTest, TellsWhatTheCornerButtonDoes) {
