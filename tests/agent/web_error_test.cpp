@@ -13,6 +13,7 @@ namespace {
 using testing::Effects;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
+using testing::InstalledAgent;
 using testing::kAlert;
 using ::testing::Not;
 namespace keys = shared::keys;
@@ -52,6 +53,45 @@ TEST_F(WebErrorTest, APasswordChangeAtStartLogsTheUserOut) {
   EXPECT_EQ(agent_.host.Read(kAlert, "lblInstall"),
             "Web Manager is disabled as your password has been changed. Login with your new "
             "password to continue.");
+}
+
+TEST_F(WebErrorTest, AnErrorThatStandsThereAtStartIsDealtWithTwiceAndShownOnce) {
+  for (const char* error : {"-1", "-2", "-3"}) {
+    InstalledAgent agent;
+    agent.SetProfile(sections::kOlwa, keys::kWebPluginError, error);
+    ASSERT_TRUE(agent.Start());
+    agent.machine.Run(61000);
+    EXPECT_EQ(agent.Traced(std::string("Error occurred in web management ") + error), 2u);
+    EXPECT_EQ(agent.machine.journal().Count("form", "show frmWelcome"), 1u) << error;
+  }
+}
+
+TEST_F(WebErrorTest, OnlyAnErrorThatLogsOutBringsTheLoginWordsToTheMenu) {
+  struct Row {
+    std::int16_t error;
+    const char* caption;
+  };
+  constexpr Row kRows[] = {{kWebError, "Sorvane - Schedule Backup"},
+                           {kWebPasswordChanged, "Login - Sorvane Schedule Backup"},
+                           {kWebAccountCancelled, "Login - Sorvane Schedule Backup"}};
+  Start();
+  for (const Row& row : kRows) {
+    agent_.LogIn();
+    Commands().HandleWebManagerError(row.error);
+    agent_.RightClick();
+    EXPECT_EQ(agent_.Item("MnuOptions").Caption(), row.caption) << row.error;
+    EXPECT_FALSE(Item().Checked()) << row.error;
+  }
+}
+
+TEST_F(WebErrorTest, AnErrorOfAnotherKindThanTheLastIsToldInItsOwnWordsToo) {
+  Start();
+  Commands().HandleWebManagerError(kWebError);
+  Commands().HandleWebManagerError(kWebAccountCancelled);
+  // The window stands there already: only its words change.
+  EXPECT_EQ(agent_.machine.journal().Count("form", "show frmWelcome"), 1u);
+  EXPECT_EQ(agent_.host.Read(kAlert, "lblInstall"),
+            "Web Manager is disabled as your Sorvane account is canceled.");
 }
 
 TEST_F(WebErrorTest, AnErrorAtStartDoesNotLogTheUserOut) {
