@@ -16,9 +16,13 @@ namespace {
 // The part of a combo box that is not its field: the list that drops down.
 constexpr int kDropHeight = 200;
 
-bool IsCatcher(const Control& control) {
+bool IsTextBox(const Control& control, TextBoxStyle style) {
   return control.Kind() == ControlKind::kTextBox &&
-         static_cast<const TextBox&>(control).Style() == TextBoxStyle::kFocusCatcher;
+         static_cast<const TextBox&>(control).Style() == style;
+}
+
+bool IsCatcher(const Control& control) {
+  return IsTextBox(control, TextBoxStyle::kFocusCatcher);
 }
 
 Child* ChildOf(HWND window) {
@@ -82,6 +86,10 @@ void Child::Update(Property property) {
     case Property::kLook:
       SendMessageA(window, WM_SETFONT,
                    reinterpret_cast<WPARAM>(screen_.fonts.Get(control_.TextFont(), Dpi())), TRUE);
+      // Text without a border stands in one line with the labels around it.
+      if (IsTextBox(control_, TextBoxStyle::kReadOnly)) {
+        SendMessageA(window, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
+      }
       SetWindowPos(window, nullptr, 0, 0, 0, 0,
                    SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
       InvalidateRect(window, nullptr, FALSE);
@@ -140,8 +148,7 @@ void Child::Paint() {
 }
 
 bool Child::IsField() const {
-  return control_.Kind() == ControlKind::kTextBox &&
-         static_cast<const TextBox&>(control_).Style() == TextBoxStyle::kOneLine;
+  return IsTextBox(control_, TextBoxStyle::kOneLine);
 }
 
 // The system writes a line at the top of its field: the field is made as high as the line, in the

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include "forms/win32/scale.h"
+
 namespace forms::win32 {
 namespace {
 
@@ -55,7 +57,22 @@ bool ToolTipWindow::AddTool(platform::WindowId tool, std::string_view text, std:
   TTTOOLINFOA info = Tool(owner_, tool);
   info.uFlags |= flags;
   info.lpszText = whole.data();
-  return Send(TTM_ADDTOOLA, 0, &info) != 0;
+  if (Send(TTM_ADDTOOLA, 0, &info) == 0) return false;
+  RelayMouse(ToWindow(tool));
+  return true;
+}
+
+// The control counts from a move of the mouse over the tool, and the one that added it is past: the
+// tip of a mouse that rests from then on would never come.
+void ToolTipWindow::RelayMouse(HWND tool) const {
+  MSG move = {};
+  if (!GetCursorPos(&move.pt) || WindowFromPoint(move.pt) != tool) return;
+  POINT place = move.pt;
+  ScreenToClient(tool, &place);
+  move.hwnd = tool;
+  move.message = WM_MOUSEMOVE;
+  move.lParam = MAKELPARAM(place.x, place.y);
+  Send(TTM_RELAYEVENT, 0, &move);
 }
 
 void ToolTipWindow::RemoveTool(platform::WindowId tool) {
@@ -116,7 +133,9 @@ void ToolTipWindow::SetMargins(const TipMargins& margins) {
 }
 
 void ToolTipWindow::SetMaxWidth(std::int32_t width) {
-  SendMessageA(window_.get(), TTM_SETMAXTIPWIDTH, 0, width);
+  // A width below zero means that lines do not wrap.
+  const int pixels = width < 0 ? width : ToPixels(width, screen_.Dpi(owner_));
+  SendMessageA(window_.get(), TTM_SETMAXTIPWIDTH, 0, pixels);
 }
 
 void ToolTipWindow::SetStyle(TipStyle style) {

@@ -33,6 +33,7 @@ class ToolTipWindow final : public forms::ToolTipWindow {
 
  private:
   LRESULT Send(UINT message, WPARAM wparam, const void* lparam) const;
+  void RelayMouse(HWND tool) const;
 
   Screen& screen_;
   HWND owner_ = nullptr;

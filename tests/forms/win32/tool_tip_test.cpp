@@ -12,6 +12,7 @@ namespace {
 using testing::ClassOf;
 using testing::frmSample;
 using testing::RealScreen;
+using testing::WindowOf;
 
 class RealToolTipTest : public ::testing::Test {
  protected:
@@ -44,6 +45,26 @@ TEST_F(RealToolTipTest, AddsRenamesAndRemovesTools) {
   EXPECT_EQ(tip_.ToolTipCount(), 1);
 }
 
+TEST_F(RealToolTipTest, ComesUpOverAMouseThatRestsAfterTheToolWasMadeAnew) {
+  constexpr DWORD kPatience = 5000;  // milliseconds
+  form_.imgClose.on_mouse_move = [this](Point) {
+    tip_.RemoveToolTip(form_.imgClose.Window());
+    tip_.AddTool(form_.imgClose.Window(), "Close");
+  };
+  form_.Show();
+  RECT place;
+  GetWindowRect(WindowOf(form_.imgClose), &place);
+  const POINT middle = {(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+  POINT mouse;
+  GetCursorPos(&mouse);
+  SetCursorPos(middle.x, middle.y);
+  const DWORD start = GetTickCount();
+  screen_.events.RunUntil(
+      [&] { return IsWindowVisible(Tip()) || GetTickCount() - start > kPatience; });
+  EXPECT_TRUE(IsWindowVisible(Tip()));
+  SetCursorPos(mouse.x, mouse.y);
+}
+
 TEST_F(RealToolTipTest, WrapsAtItsWidthAndStaysWhileTheMouseRests) {
   tip_.SetMaxTipWidth(100);
   tip_.SetDelayTime(TipDelay::kInitial, 300);
@@ -52,6 +73,20 @@ TEST_F(RealToolTipTest, WrapsAtItsWidthAndStaysWhileTheMouseRests) {
   EXPECT_EQ(SendMessageA(Tip(), TTM_GETDELAYTIME, TTDT_AUTOPOP, 0), 0x7FFF);
   EXPECT_EQ(tip_.DelayTime(TipDelay::kAutoPop), 1000000);
   EXPECT_EQ(SendMessageA(Tip(), TTM_GETDELAYTIME, TTDT_INITIAL, 0), 300);
+}
+
+TEST(RealToolTipScale, WrapsAtAWidthThatGrowsWithTheScreensDensity) {
+  RealScreen screen(144);
+  frmSample form(screen.host);
+  form.Show();
+  clsToolTip tip(screen.host);
+  ASSERT_TRUE(tip.Create(form.Window()));
+  const HWND window = reinterpret_cast<HWND>(tip.ToolTipHandle());
+  tip.SetMaxTipWidth(100);
+  EXPECT_EQ(SendMessageA(window, TTM_GETMAXTIPWIDTH, 0, 0), 150);
+  tip.SetMaxTipWidth(-1);
+  EXPECT_EQ(SendMessageA(window, TTM_GETMAXTIPWIDTH, 0, 0), -1);
+  EXPECT_EQ(tip.MaxTipWidth(), -1);
 }
 
 TEST_F(RealToolTipTest, TakesColoursMarginsAndShape) {
