@@ -213,7 +213,8 @@ void frmStatus::RenderIdle(const StatusView& view) {
                                                                        : forms::theme::kGood);
   lblHoursInfo.SetText(view.status_line);
   lblHoursInfo.SetFontPoints(view.status_points);
-  lblBkupInfo.SetVisible(view.next_line_shown);
+  // An empty line would move the one above off the middle of its card.
+  lblBkupInfo.SetVisible(view.next_line_shown && !view.next_line.empty());
   lblBkupInfo.SetText(view.next_line);
 }
 

@@ -94,14 +94,14 @@ Cell frmStatus::Layout() {
        Stack({Item(lblTimeElaspedBkup), Item(lblTimeEstBkup)}).Grow()});
 
   const Cell bandwidth =
-      Line({Item(Label7).Width(kLabelColumn), Item(PictSliderBox2).Width(kBoxWidth),
+      Line({Item(Label7).Width(kLabelColumn).KeepRoom(), Item(PictSliderBox2).Width(kBoxWidth),
             Item(LabelBand).Width(kBandColumn), Space().Grow(),
             Pile({Item(chkAutoPause), Item(imgProgAutoPause)})});
 
   const Cell transfer =
       Stack({Item(BkupProgress), Item(ProgressBarXP1), counters,
              Stack({Item(lblBackup), Item(BkupFilepath).Height(kPathHeight)}).Gap(2), bandwidth,
-             Item(LblAutoPauseInfo), Space(),
+             Item(LblAutoPauseInfo).KeepRoom(),
              Line({Space().Grow(), Pile({Item(cmd_ProgPause), Item(imgProgPuaseResume)}),
                    Pile({Item(cmd_ProgCancel), Item(imgProgCancel)})})})
           .Gap(theme::kGap + 2);

@@ -283,6 +283,36 @@ TEST_F(FrmStatusTest, DisablesTheLogWhileNobodyIsLoggedIn) {
   EXPECT_EQ(Text("lblUserName"), "anna");
 }
 
+TEST_F(FrmStatusTest, KeepsPauseAndCancelInTheirPlaceInEveryTransfer) {
+  ShowBackup();
+  window.Arrange();
+  const forms::Rect pause = At("cmd_ProgPause").Bounds();
+  const forms::Rect cancel = At("cmd_ProgCancel").Bounds();
+  const auto stay = [&] {
+    window.Arrange();
+    return At("cmd_ProgPause").Bounds() == pause && At("cmd_ProgCancel").Bounds() == cancel;
+  };
+  Click("chkAutoPause");
+  EXPECT_TRUE(stay());
+  Click("cmd_ProgPause");
+  EXPECT_TRUE(stay());
+  SetProgress("BackupProgressInfo", "BackupInProgress", "0");
+  StartTransfer("3");
+  machine.Run(2000);
+  EXPECT_TRUE(stay());
+}
+
+TEST_F(FrmStatusTest, CentresAStatusLineWithoutANextRunInItsCard) {
+  machine.files().Delete(Path("scheduleData.txt"));
+  LogIn("");
+  window.Show();
+  window.Arrange();
+  const auto middle = [this](std::string_view name) {
+    return At(name).Bounds().top + At(name).Bounds().height / 2;
+  };
+  EXPECT_EQ(middle("lblHoursInfo"), middle("imgStatus"));
+}
+
 TEST_F(FrmStatusTest, KeepsItsSizeWhenItTurnsToATransfer) {
   window.Show();
   const forms::Size at_rest = window.Arrange();
