@@ -17,6 +17,11 @@
 
 namespace status {
 
+// Sizes of the status line's type.
+inline constexpr int kOrdinaryPoints = 10;
+inline constexpr int kSmallPoints = 9;  // and the ordinary one in large fonts
+inline constexpr int kSmallestPoints = 8;
+
 using ReadIdle = std::function<IdleSnapshot()>;
 
 class IdleView {

@@ -182,6 +182,7 @@ TEST_F(FastTickTest, TakesTheScheduledJobsTextAwayWhenTheScheduleSaysThatItEnded
     Fast();
     EXPECT_EQ(view.status_line, running);
     now.schedule_read = false;  // the engine is writing it
+    now.job_kind = "";
     Fast();
     EXPECT_EQ(view.status_line, running);
     now.schedule_read = true;

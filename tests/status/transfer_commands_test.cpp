@@ -159,6 +159,10 @@ TEST_F(TransferCommands, BringBackWhatTheTransferHadHidden) {
     window.ResetStatusWindow();
     EXPECT_TRUE(View().quota_bar_shown && View().quota_text_shown && View().space_label_shown);
     EXPECT_EQ(View().next_line, "Your next backup will occur on  02-15-2011 10:30:00");
+    EXPECT_FALSE(View().pause_shown || View().transfer.controls_shown);
+    StartTransfer(job);
+    window.FastTick();
+    EXPECT_TRUE(View().pause_shown && View().transfer.controls_shown);
   }
 }
 
