@@ -205,7 +205,8 @@ void FormWindow::SetState(WindowState state) {
       ShowWindow(window, SW_HIDE);
       return;
     case WindowState::kMinimised:
-      ShowWindow(window, SW_SHOWMINIMIZED);
+      // Whoever works in another window keeps the keyboard.
+      ShowWindow(window, SW_SHOWMINNOACTIVE);
       return;
     case WindowState::kShown:
     case WindowState::kInFront:

@@ -261,6 +261,17 @@ TEST_F(RendererTest, QuietFormLeavesTheKeyboardWhereItIs) {
   EXPECT_TRUE(form_.txtName.HasFocus());
 }
 
+TEST_F(RendererTest, MinimisedFormLeavesTheKeyboardWhereItIs) {
+  form_.Show();
+  SetForegroundWindow(WindowOf(form_));
+  form_.txtName.SetFocus();
+  frmSample other(screen_.host);
+  other.Minimise();
+  screen_.Settle();
+  EXPECT_TRUE(IsIconic(WindowOf(other)));
+  EXPECT_TRUE(form_.txtName.HasFocus());
+}
+
 TEST_F(RendererTest, WindowGrowsWithALongerText) {
   form_.Show();
   RECT before;
