@@ -14,10 +14,11 @@ function(sorvane_library name)
   target_link_libraries(${name} PUBLIC ${ARG_LINKS})
 endfunction()
 
-# sorvane_test(name SOURCES file... [LINKS lib...]): one GoogleTest program. Natively each test is a test of
-# its own for CTest; on Windows (run through the emulator of the toolchain) each program is one.
+# sorvane_test(name SOURCES file... [LINKS lib...] [DESKTOPS count]): one GoogleTest program. Natively each
+# test is a test of its own for CTest; on Windows (run through the emulator of the toolchain) each program
+# is one. One that needs the mouse runs on a desktop of its own; on several its tests are dealt out.
 function(sorvane_test name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  cmake_parse_arguments(ARG "" "DESKTOPS" "SOURCES;LINKS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}")
   # As the product: a window's type information is nowhere to be linked from.
@@ -25,11 +26,27 @@ function(sorvane_test name)
   target_link_libraries(${name} PRIVATE ${ARG_LINKS} GTest::gtest GTest::gtest_main)
   if(WIN32)
     target_link_options(${name} PRIVATE -static)
-    add_test(NAME windows.${name} COMMAND ${name})
-    set_tests_properties(windows.${name} PROPERTIES LABELS windows)
+    if(ARG_DESKTOPS)
+      sorvane_desktop_tests(${name} ${ARG_DESKTOPS})
+    else()
+      add_test(NAME windows.${name} COMMAND ${name})
+      set_tests_properties(windows.${name} PROPERTIES LABELS windows)
+    endif()
   else()
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST PROPERTIES LABELS native)
   endif()
+endfunction()
+
+# The tests of one program on `count` desktops. They wait more than they work and take longest, so they
+# are started first.
+function(sorvane_desktop_tests name count)
+  foreach(number RANGE 1 ${count})
+    math(EXPR index "${number} - 1")
+    add_test(NAME windows.${name}.${number}
+      COMMAND "${PROJECT_SOURCE_DIR}/scripts/on_desktop.sh" ${name}-${number} $<TARGET_FILE:${name}>)
+    set_tests_properties(windows.${name}.${number} PROPERTIES LABELS windows COST 1000
+      ENVIRONMENT "GTEST_TOTAL_SHARDS=${count};GTEST_SHARD_INDEX=${index}")
+  endforeach()
 endfunction()
 
 # sorvane_fuzz(fuzz_NAME SOURCES file... [LINKS lib...]): one libFuzzer target. Its seeds lie in

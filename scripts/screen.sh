@@ -2,16 +2,17 @@
 
 screen_pid=""
 
-# start_screen WIDTHxHEIGHT: sets DISPLAY to a free one of its own.
+# start_screen WIDTHxHEIGHT [NAME]: sets DISPLAY to a free one of its own.
 start_screen() {
-  local size="$1" display_file
+  local size="$1" log="build/logs/screen${2:+-$2}.log" display_file
+  mkdir -p build/logs
   display_file="$(mktemp)"
-  Xvfb -displayfd 3 -screen 0 "${size}x24" -nolisten tcp -noreset 3>"$display_file" >build/logs/screen.log 2>&1 &
+  Xvfb -displayfd 3 -screen 0 "${size}x24" -nolisten tcp -noreset 3>"$display_file" >"$log" 2>&1 &
   screen_pid=$!
   local tries=0
   until [ -s "$display_file" ]; do
-    kill -0 "$screen_pid" 2>/dev/null || fail "starting the virtual screen" "read build/logs/screen.log"
-    [ $((tries += 1)) -lt 100 ] || fail "the virtual screen gives no sign" "read build/logs/screen.log"
+    kill -0 "$screen_pid" 2>/dev/null || fail "starting the virtual screen" "read $log"
+    [ $((tries += 1)) -lt 300 ] || fail "the virtual screen gives no sign" "read $log"
     sleep 0.1
   done
   DISPLAY=":$(cat "$display_file")"
@@ -19,20 +20,23 @@ start_screen() {
   rm -f "$display_file"
 }
 
-# use_wine_prefix NAME WIDTHxHEIGHT: a private prefix below build/, made at first use and kept for
-# later runs, with a desktop of that size.
+# use_wine_prefix NAME WIDTHxHEIGHT: a fresh private prefix below build/ with a desktop of that size.
 use_wine_prefix() {
-  export WINEPREFIX="$PWD/build/wine-$1"
-  export WINEDEBUG=-all
+  local template="$PWD/build/wine-$2"
   # No offers to download a script engine or an HTML engine.
-  export WINEDLLOVERRIDES="mscoree=;mshtml="
-  local mark="$WINEPREFIX/made-for-$2"
-  if [ ! -f "$mark" ]; then
-    rm -rf "$WINEPREFIX"
-    step "preparing a Windows environment in build/wine-$1" "read build/logs/wineboot.log" \
-      boot_wine_prefix "$2"
-    touch "$mark"
-  fi
+  export WINEDEBUG=-all WINEDLLOVERRIDES="mscoree=;mshtml="
+  mkdir -p build/logs
+  (
+    flock 9
+    if [ ! -f "$template/complete" ]; then
+      rm -rf "$template"
+      WINEPREFIX="$template" step "preparing a Windows environment in build/wine-$2" \
+        "read build/logs/wineboot.log" boot_wine_prefix "$2"
+      touch "$template/complete"
+    fi
+  ) 9>build/wine.lock
+  export WINEPREFIX="$PWD/build/wine-$1"
+  copy_wine_prefix "$template"
 }
 
 # Every program of the prefix starts on the desktop "shell", which has a task bar with a
@@ -46,6 +50,13 @@ boot_wine_prefix() {
       # The pictures of title bars are letters of this font, which Wine does not find by itself.
       cp /usr/share/wine/fonts/marlett.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
   } >build/logs/wineboot.log 2>&1
+}
+
+# The system's programs are linked, not copied; only the registry is written in place.
+copy_wine_prefix() {
+  rm -rf "$WINEPREFIX"
+  cp -al "$1" "$WINEPREFIX"
+  cp --remove-destination "$1"/*.reg "$WINEPREFIX/"
 }
 
 # start_shell WIDTHxHEIGHT: the task bar; it keeps the Windows environment alive.

@@ -15,8 +15,6 @@
 
 namespace {
 
-constexpr DWORD kPatience = 30'000;  // milliseconds
-constexpr char kAgent[] = "SorvaneETray.exe";
 constexpr char kProductKey[] = "Software\\Bellwick-Labs";
 
 // A path of the build as Windows programs see it.
@@ -71,10 +69,10 @@ std::string InBuild(std::string_view name) {
   return WindowsPath(SORVANE_LAB_FOLDER) + "\\" + std::string(name);
 }
 
-bool WaitUntil(const std::function<bool()>& done) {
+bool WaitUntil(const std::function<bool()>& done, DWORD patience) {
   const DWORD start = GetTickCount();
   while (!done()) {
-    if (GetTickCount() - start > kPatience) return false;
+    if (GetTickCount() - start > patience) return false;
     Sleep(50);
   }
   return true;
@@ -90,7 +88,7 @@ Installation::Installation() {
   const struct {
     std::string from;
     std::string_view to;
-  } programs[] = {{WindowsPath(SORVANE_EXECUTABLE), kAgent},
+  } programs[] = {{WindowsPath(SORVANE_EXECUTABLE), kAgentProgram},
                   {InBuild("lab_engine_client.exe"), lab::kEngineClient},
                   {InBuild("lab_background.exe"), lab::kBackgroundProcess},
                   {InBuild("lab_main_program.exe"), lab::kMainProgram}};
@@ -128,11 +126,14 @@ void Installation::PlanJobDueNow() {
 }
 
 HANDLE Installation::Start(std::string_view program, std::string_view arguments) {
-  std::string line = "\"" + places_.InInstallFolder(program) + "\" " + std::string(arguments);
+  return StartCommand("\"" + places_.InInstallFolder(program) + "\" " + std::string(arguments));
+}
+
+HANDLE Installation::StartCommand(std::string command_line) {
   STARTUPINFOA start = {};
   start.cb = sizeof(start);
   PROCESS_INFORMATION process = {};
-  if (!CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr,
+  if (!CreateProcessA(nullptr, command_line.data(), nullptr, nullptr, FALSE, 0, nullptr,
                       places_.install_folder.c_str(), &start, &process)) {
     return nullptr;
   }
@@ -142,7 +143,7 @@ HANDLE Installation::Start(std::string_view program, std::string_view arguments)
 }
 
 bool Installation::StartAgent() {
-  agent_ = Start(kAgent);
+  agent_ = Start(kAgentProgram);
   return WaitUntil([this] { return Picture() != "none"; });
 }
 

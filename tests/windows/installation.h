@@ -13,8 +13,11 @@
 #include "lab/screen/tray_icons.h"
 #include "platform/win32/machine.h"
 
-// Waits until `done` gives true; false after half a minute.
-bool WaitUntil(const std::function<bool()>& done);
+inline constexpr std::string_view kAgentProgram = "SorvaneETray.exe";
+inline constexpr DWORD kPatience = 60'000;  // milliseconds
+
+// Waits until `done` gives true; false after `patience` milliseconds.
+bool WaitUntil(const std::function<bool()>& done, DWORD patience = kPatience);
 
 // A file of the lab's build as Windows programs see it.
 std::string InBuild(std::string_view name);
@@ -34,6 +37,7 @@ class Installation {
 
   // Starts a program of the folder. The handle is closed with the installation.
   HANDLE Start(std::string_view program, std::string_view arguments = {});
+  HANDLE StartCommand(std::string command_line);
   // Starts the agent and waits for its icon.
   bool StartAgent();
   HANDLE agent() const { return agent_; }

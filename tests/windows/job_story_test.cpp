@@ -5,7 +5,6 @@
 #include "lab/engine/program_names.h"
 #include "lab/engine/schedule_file.h"
 #include "shared/file_names.h"
-#include "shared/keys.h"
 #include "status/progress_keys.h"
 #include "tests/windows/story.h"
 
@@ -15,8 +14,8 @@ TEST(JobStory, AStopIsSeenByTheEngineAndTurnsTheIconRed) {
   Story story;
   ASSERT_TRUE(story.StartAgentWithJob(100, 1000));
   ASSERT_TRUE(story.WaitForPicture("tvlogyellow.ico"));
-  ASSERT_TRUE(story.Choose("Stop Scheduled Backup"));
-  EXPECT_TRUE(WaitUntil([&] { return !story.IsRunning(lab::kEngineClient); }));
+  ASSERT_TRUE(
+      story.Choose("Stop Scheduled Backup", [&] { return !story.IsRunning(lab::kEngineClient); }));
   EXPECT_TRUE(story.WaitForPicture("tvlogred.ico"));
   EXPECT_EQ("The scheduled backup has been canceled.\r\n",
             story.machine()
@@ -31,8 +30,8 @@ TEST(JobStory, AStopEndsAnEngineThatHearsNothing) {
   story.Script("Job", "Ending", "freeze");
   ASSERT_TRUE(story.StartAgentWithJob(1, 500));
   ASSERT_TRUE(story.WaitForPicture("tvlogyellow.ico"));
-  ASSERT_TRUE(story.Choose("Stop Scheduled Backup"));
-  EXPECT_TRUE(WaitUntil([&] { return !story.IsRunning(lab::kEngineClient); }));
+  ASSERT_TRUE(
+      story.Choose("Stop Scheduled Backup", [&] { return !story.IsRunning(lab::kEngineClient); }));
   EXPECT_TRUE(WaitUntil([&] { return story.Status(status::kDllStatus) == "3"; }));
   EXPECT_EQ("5", story.Status(status::kStatus));
   EXPECT_EQ("1", story.Status(status::kCancel));
@@ -42,18 +41,18 @@ TEST(JobStory, TheScheduleIsSwitchedOffAndOnAgain) {
   Story story;
   story.PlanJobForLater();
   ASSERT_TRUE(story.StartAgent());
-  ASSERT_TRUE(story.Choose("Disable Automatic Backup"));
-  EXPECT_TRUE(WaitUntil([&] { return story.Setting(shared::keys::kScheduleDisable) == "TRUE"; }));
+  const auto disabled = [&](std::string_view word) {
+    return [&story, word] { return story.Setting(shared::keys::kScheduleDisable) == word; };
+  };
+  ASSERT_TRUE(story.Choose("Disable Automatic Backup", disabled("TRUE")));
   EXPECT_TRUE(story.WaitForTip("You have disabled the scheduled backup from the Sorvane"));
-  ASSERT_TRUE(story.Choose("Disable Automatic Backup"));
-  EXPECT_TRUE(WaitUntil([&] { return story.Setting(shared::keys::kScheduleDisable) == "FALSE"; }));
+  EXPECT_TRUE(story.Choose("Disable Automatic Backup", disabled("FALSE")));
 }
 
 TEST(JobStory, ABackupNowIsTakenUpByTheMainProgram) {
   Story story;
   ASSERT_TRUE(story.StartAgent());
-  ASSERT_TRUE(story.Choose("Backup Now"));
-  EXPECT_TRUE(WaitUntil([&] { return story.IsRunning(lab::kMainProgram); }));
+  ASSERT_TRUE(story.Choose("Backup Now", [&] { return story.IsRunning(lab::kMainProgram); }));
   // The main program starts the engine only for a request that it finds in the file.
   EXPECT_TRUE(WaitUntil([&] { return story.Calls("SorvaneEClsClient.exe [backup]") == 1; }));
   EXPECT_EQ("0", story.Status(shared::keys::kBackupNowTray));

@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "lab/engine/program_names.h"
-#include "shared/keys.h"
 #include "status/progress_keys.h"
 #include "tests/windows/story.h"
 
@@ -11,53 +10,33 @@ namespace {
 TEST(StatusWindowStory, ShowsTheAccountAndClosesByEscape) {
   Story story;
   ASSERT_TRUE(story.StartAgent());
-  ASSERT_TRUE(story.Choose("Status"));
+  ASSERT_TRUE(story.OpenStatus());
   EXPECT_TRUE(WaitForText(kStatusWindowClass, "Account Name:"));
   EXPECT_TRUE(WaitForText(kStatusWindowClass, "anna"));
   EXPECT_TRUE(WaitForText(kStatusWindowClass, "No backup has been scheduled."));
-  ASSERT_TRUE(Press(kStatusWindowClass, "Account Name:"));
-  ASSERT_TRUE(PressKeyIn(kStatusWindowClass, VK_ESCAPE));
-  EXPECT_TRUE(WaitUntilClosed(kStatusWindowClass));
+  EXPECT_TRUE(PressKeyIn(kStatusWindowClass, VK_ESCAPE,
+                         [] { return WindowOf(kStatusWindowClass).window == nullptr; }));
   EXPECT_TRUE(story.AgentRuns());
 }
 
 TEST(StatusWindowStory, PausesByTheMouseAndResumesByTheKeyboard) {
   Story story;
   ASSERT_TRUE(story.StartAgentWithJob(100, 500));
-  ASSERT_TRUE(story.Choose("Status"));
+  ASSERT_TRUE(story.OpenStatus());
   ASSERT_TRUE(WaitForText(kStatusWindowClass, "Backedup files: "));
   EXPECT_TRUE(WaitForText(kStatusWindowClass, "C:\\Data\\Documents\\file "));
-  ASSERT_TRUE(Press(kStatusWindowClass, "Pause"));
-  EXPECT_TRUE(WaitForText(kStatusWindowClass, "Resume"));
+  ASSERT_TRUE(
+      Press(kStatusWindowClass, "Pause", [] { return Shows(kStatusWindowClass, "Resume"); }));
   EXPECT_EQ("1", story.Status(status::kPaused));
   EXPECT_TRUE(WaitForText(kStatusWindowClass,
                           "Backup process has been paused. Click 'Resume' to continue."));
   EXPECT_TRUE(story.Tip().ends_with("has been paused.")) << story.Tip();
 
-  ASSERT_TRUE(PressKeyIn(kStatusWindowClass, VK_SPACE));
-  EXPECT_TRUE(WaitForText(kStatusWindowClass, "Pause"));
+  ASSERT_TRUE(
+      PressKeyIn(kStatusWindowClass, VK_SPACE, [] { return Shows(kStatusWindowClass, "Pause"); }));
   EXPECT_EQ("0", story.Status(status::kPaused));
   const std::string count = story.Progress(status::kFileCount);
   EXPECT_TRUE(WaitUntil([&] { return story.Progress(status::kFileCount) != count; }));
-}
-
-TEST(StatusWindowStory, AsksBeforeItCancelsAndLeavesACleanChannel) {
-  Story story;
-  ASSERT_TRUE(story.StartAgentWithJob(100, 500));
-  ASSERT_TRUE(story.Choose("Status"));
-  ASSERT_TRUE(WaitForText(kStatusWindowClass, "Backedup files: "));
-  ASSERT_TRUE(Press(kStatusWindowClass, "Cancel"));
-  ASSERT_TRUE(
-      WaitForText(kQuestionClass, "Are you sure you want to cancel the backup operation ?"));
-  ASSERT_TRUE(Press(kQuestionClass, "No"));
-  ASSERT_TRUE(WaitUntilClosed(kQuestionClass));
-  EXPECT_TRUE(story.IsRunning(lab::kEngineClient));
-
-  ASSERT_TRUE(Press(kStatusWindowClass, "Cancel"));
-  ASSERT_TRUE(Press(kQuestionClass, "Yes"));
-  EXPECT_TRUE(WaitUntil([&] { return story.Traced("Backup or restore progress canceled.") > 0; }));
-  EXPECT_TRUE(WaitUntil([&] { return !story.IsRunning(lab::kEngineClient); }));
-  EXPECT_EQ("0", story.Progress(status::kBackupInProgress));
 }
 
 TEST(StatusWindowStory, ShowsTheOutcomeWhenTheJobEnds) {
@@ -70,18 +49,18 @@ TEST(StatusWindowStory, ShowsTheOutcomeWhenTheJobEnds) {
 TEST(StatusWindowStory, TurnsAutoPauseOverWithTheMouse) {
   Story story;
   ASSERT_TRUE(story.StartAgentWithJob(100, 500));
-  ASSERT_TRUE(story.Choose("Status"));
-  ASSERT_TRUE(Press(kStatusWindowClass, "Auto-Pause"));
-  EXPECT_TRUE(WaitForText(kStatusWindowClass, "25%"));
+  ASSERT_TRUE(story.OpenStatus());
+  ASSERT_TRUE(
+      Press(kStatusWindowClass, "Auto-Pause", [] { return Shows(kStatusWindowClass, "25%"); }));
   EXPECT_EQ("1", story.Setting(shared::keys::kBackupIdle));
-  ASSERT_TRUE(Press(kStatusWindowClass, "Auto-Pause"));
-  EXPECT_TRUE(WaitUntil([&] { return story.Setting(shared::keys::kBackupIdle) == "0"; }));
+  EXPECT_TRUE(Press(kStatusWindowClass, "Auto-Pause",
+                    [&] { return story.Setting(shared::keys::kBackupIdle) == "0"; }));
 }
 
 TEST(StatusWindowStory, TurnsToTheLoggedOutViewWhenTheUserGoes) {
   Story story;
   ASSERT_TRUE(story.StartAgent());
-  ASSERT_TRUE(story.Choose("Status"));
+  ASSERT_TRUE(story.OpenStatus());
   ASSERT_TRUE(WaitForText(kStatusWindowClass, "anna"));
   story.machine().profile_files.WriteText(story.places().UserNameIni(), shared::sections::kRegistry,
                                           shared::keys::kDefaultUserName, "");

@@ -7,7 +7,6 @@
 #include "lab/engine/program_names.h"
 #include "lab/screen/mouse.h"
 #include "shared/file_names.h"
-#include "shared/keys.h"
 #include "status/progress_keys.h"
 #include "tests/windows/lab_service.h"
 
@@ -48,6 +47,25 @@ POINT IconPlace() {
 bool MenuIsShown() {
   const HWND menu = FindWindowA(kMenuClass, nullptr);
   return menu && IsWindowVisible(menu);
+}
+
+// The menu takes keys once its program is in front.
+bool MenuHasTheKeyboard() {
+  return MenuIsShown() && lab::ProgramOf(GetForegroundWindow()) == kAgentProgram;
+}
+
+void ChooseByKeys(std::string_view item) {
+  if (!ActUntil(
+          [] {
+            if (!MenuIsShown()) lab::ClickMouse(IconPlace(), lab::MouseButton::kRight);
+          },
+          MenuHasTheKeyboard)) {
+    return;
+  }
+  const auto found = std::find(std::begin(kMenuItems), std::end(kMenuItems), item);
+  for (auto at = std::begin(kMenuItems); at <= found; ++at) lab::PressKey(VK_DOWN);
+  lab::PressKey(VK_RETURN);
+  WaitUntil([] { return !MenuIsShown(); });
 }
 
 int CountOf(std::string_view words, std::string_view text) {
@@ -113,22 +131,29 @@ bool Story::Kill(std::string_view program) {
          WaitUntil([&] { return !IsRunning(program); });
 }
 
-std::string Story::Shared(std::string_view key) {
-  return machine().profile_files.ReadText(places().UserNameIni(), shared::sections::kTolvex, key);
+std::string Story::Shared(std::string_view key, std::string_view section) {
+  return machine().profile_files.ReadText(places().UserNameIni(), section, key);
 }
 
-void Story::SetShared(std::string_view key, std::string_view value) {
-  machine().profile_files.WriteText(places().UserNameIni(), shared::sections::kTolvex, key, value);
+void Story::SetShared(std::string_view key, std::string_view value, std::string_view section) {
+  machine().profile_files.WriteText(places().UserNameIni(), section, key, value);
 }
 
 std::string Story::Setting(std::string_view shifted_key) {
-  return lab::Readable(machine().profile_files.ReadText(
-      places().Profile(kUser), shared::sections::kTolvex, lab::Stored(shifted_key)));
+  return lab::Readable(PlainSetting(lab::Stored(shifted_key)));
 }
 
 void Story::SetSetting(std::string_view shifted_key, std::string_view value) {
-  machine().profile_files.WriteText(places().Profile(kUser), shared::sections::kTolvex,
-                                    lab::Stored(shifted_key), lab::Stored(value));
+  SetPlainSetting(lab::Stored(shifted_key), lab::Stored(value));
+}
+
+std::string Story::PlainSetting(std::string_view key, std::string_view section) {
+  return machine().profile_files.ReadText(places().Profile(kUser), section, key);
+}
+
+void Story::SetPlainSetting(std::string_view key, std::string_view value,
+                            std::string_view section) {
+  machine().profile_files.WriteText(places().Profile(kUser), section, key, value);
 }
 
 std::string Story::Progress(std::string_view key) {
@@ -150,17 +175,21 @@ bool Story::WaitForTick() {
   return WaitUntil([this] { return Status(status::kDllStatus) == "0"; });
 }
 
-void Story::DoubleClickIcon() {
-  lab::DoubleClickMouse(IconPlace());
+bool Story::DoubleClickIcon(const std::function<bool()>& done) {
+  return ActUntil([] { lab::DoubleClickMouse(IconPlace()); }, done);
 }
 
-bool Story::Choose(std::string_view item) {
-  lab::ClickMouse(IconPlace(), lab::MouseButton::kRight);
-  if (!WaitUntil(MenuIsShown)) return false;
-  const auto found = std::find(std::begin(kMenuItems), std::end(kMenuItems), item);
-  for (auto at = std::begin(kMenuItems); at <= found; ++at) lab::PressKey(VK_DOWN);
-  lab::PressKey(VK_RETURN);
-  return WaitUntil([] { return !MenuIsShown(); });
+bool Story::Choose(std::string_view item, const std::function<bool()>& done) {
+  return ActUntil([&] { ChooseByKeys(item); }, done);
+}
+
+bool Story::ChooseAndAnswer(std::string_view item, std::string_view button) {
+  return Choose(item, [&] { return Shows(kQuestionClass, button); }) &&
+         CloseWith(kQuestionClass, button);
+}
+
+bool Story::OpenStatus() {
+  return Choose("Status", [] { return WindowOf(kStatusWindowClass).window != nullptr; });
 }
 
 bool Story::WaitForTip(std::string_view tip) {
@@ -172,43 +201,4 @@ bool Story::WaitForTip(std::string_view tip) {
     lab::MoveMouse(place);
     return Tip().starts_with(tip);
   });
-}
-
-lab::WindowInfo WindowOf(std::string_view class_name) {
-  for (const lab::WindowInfo& window : lab::VisibleWindows()) {
-    if (window.class_name == class_name) return window;
-  }
-  return {};
-}
-
-bool WaitForWindow(std::string_view class_name) {
-  return WaitUntil([&] { return WindowOf(class_name).window != nullptr; });
-}
-
-bool WaitUntilClosed(std::string_view class_name) {
-  return WaitUntil([&] { return WindowOf(class_name).window == nullptr; });
-}
-
-lab::ControlInfo ControlOf(std::string_view class_name, std::string_view text) {
-  for (const lab::ControlInfo& control : WindowOf(class_name).controls) {
-    if (control.visible && control.text.starts_with(text)) return control;
-  }
-  return {};
-}
-
-bool WaitForText(std::string_view class_name, std::string_view text) {
-  return WaitUntil([&] { return ControlOf(class_name, text).window != nullptr; });
-}
-
-bool PressKeyIn(std::string_view class_name, WORD key) {
-  if (!WaitUntil([&] { return GetForegroundWindow() == WindowOf(class_name).window; }))
-    return false;
-  lab::PressKey(key);
-  return true;
-}
-
-bool Press(std::string_view class_name, std::string_view text) {
-  if (!WaitForText(class_name, text)) return false;
-  lab::ClickMouse(lab::MiddleOf(ControlOf(class_name, text).place));
-  return true;
 }

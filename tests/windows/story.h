@@ -1,17 +1,14 @@
 // A whole installation for the stories: the closed libraries, the service's batch files and the
-// plug-in beside the programs of Installation, and a person's hands at icon, menu and windows.
+// plug-in beside the programs of Installation, and a person at its icon and menu.
 #pragma once
 
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "lab/screen/window_list.h"
+#include "shared/keys.h"
+#include "tests/windows/hands.h"
 #include "tests/windows/installation.h"
-
-inline constexpr std::string_view kAgentProgram = "SorvaneETray.exe";
-inline constexpr std::string_view kStatusWindowClass = "frmStatus";
-inline constexpr std::string_view kQuestionClass = "frmGeneralMessage";
 
 class Story : public Installation {
  public:
@@ -36,34 +33,31 @@ class Story : public Installation {
   // Ends the program of the folder from outside. False when it does not run.
   bool Kill(std::string_view program);
 
-  // Values of UserName.ini, section Tolvex, and of the profile's section Tolvex.
-  std::string Shared(std::string_view key);
-  void SetShared(std::string_view key, std::string_view value);
+  // Values of UserName.ini, section Tolvex or another one.
+  std::string Shared(std::string_view key, std::string_view section = shared::sections::kTolvex);
+  void SetShared(std::string_view key, std::string_view value,
+                 std::string_view section = shared::sections::kTolvex);
+  // Values of the profile, shifted ones of its section Tolvex, and plain ones.
   std::string Setting(std::string_view shifted_key);
   void SetSetting(std::string_view shifted_key, std::string_view value);
+  std::string PlainSetting(std::string_view key,
+                           std::string_view section = shared::sections::kTolvex);
+  void SetPlainSetting(std::string_view key, std::string_view value,
+                       std::string_view section = shared::sections::kTolvex);
   std::string Progress(std::string_view key);
   // `Status` of `Connection Parameters`; -1 without the value.
   int ConnectionStatus();
   // True when a fast tick has run after this call: it has acknowledged the end of a job.
   bool WaitForTick();
 
-  // The hands.
-  void DoubleClickIcon();
+  // Double clicks the icon until `done`.
+  bool DoubleClickIcon(const std::function<bool()>& done);
   // Opens the icon's menu and chooses the item with this caption of a logged-in user's menu by the
-  // arrow keys. False when no menu comes up.
-  bool Choose(std::string_view item);
+  // arrow keys, until `done`. False when that does not come.
+  bool Choose(std::string_view item, const std::function<bool()>& done);
+  // The same for an item that asks a question first, which is answered with this button.
+  bool ChooseAndAnswer(std::string_view item, std::string_view button);
+  bool OpenStatus();
   // Rests the mouse on the icon until its tip begins so; a tip ends after 63 characters.
   bool WaitForTip(std::string_view tip);
 };
-
-// The visible window of this class; without one, `window` is null.
-lab::WindowInfo WindowOf(std::string_view class_name);
-bool WaitForWindow(std::string_view class_name);
-bool WaitUntilClosed(std::string_view class_name);
-// The visible control of the window whose text begins so; without one, `window` is null.
-lab::ControlInfo ControlOf(std::string_view class_name, std::string_view text);
-bool WaitForText(std::string_view class_name, std::string_view text);
-// Waits until the window has the keyboard and presses the key.
-bool PressKeyIn(std::string_view class_name, WORD key);
-// Waits for the control and clicks it with the mouse. False when it does not appear.
-bool Press(std::string_view class_name, std::string_view text);
