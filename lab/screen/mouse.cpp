@@ -46,6 +46,13 @@ void DoubleClickMouse(POINT place) {
   ClickMouse(place);
 }
 
+void DragMouse(POINT from, POINT to) {
+  MoveMouse(from);
+  SendMouse(MOUSEEVENTF_LEFTDOWN);
+  MoveMouse(to);
+  SendMouse(MOUSEEVENTF_LEFTUP);
+}
+
 void PressKey(WORD key) {
   SendKey(key, 0);
   SendKey(key, KEYEVENTF_KEYUP);

@@ -10,6 +10,8 @@ enum class MouseButton { kLeft, kRight };
 void MoveMouse(POINT place);
 void ClickMouse(POINT place, MouseButton button = MouseButton::kLeft);
 void DoubleClickMouse(POINT place);
+// Presses the left button at one place and lets it go at the other.
+void DragMouse(POINT from, POINT to);
 
 // Presses and releases one key (a virtual-key code).
 void PressKey(WORD key);

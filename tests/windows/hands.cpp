@@ -66,6 +66,16 @@ bool CloseWith(std::string_view class_name, std::string_view button) {
   return Press(class_name, button, [&] { return WindowOf(class_name).window != window; });
 }
 
+std::string KeyboardIn(std::string_view class_name) {
+  GUITHREADINFO info = {};
+  info.cbSize = sizeof(info);
+  const HWND window = WindowOf(class_name).window;
+  if (!window || !GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info)) return "";
+  char name[64] = "";
+  GetClassNameA(info.hwndFocus, name, sizeof(name));
+  return name;
+}
+
 bool PressKeyIn(std::string_view class_name, WORD key, const std::function<bool()>& done) {
   if (!WaitUntil([&] { return GetForegroundWindow() == WindowOf(class_name).window; })) {
     return false;

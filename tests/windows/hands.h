@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <string_view>
 
 #include "lab/screen/window_list.h"
@@ -27,5 +28,7 @@ bool WaitForText(std::string_view class_name, std::string_view text);
 bool Press(std::string_view class_name, std::string_view text, const std::function<bool()>& done);
 // Clicks a button that closes its window.
 bool CloseWith(std::string_view class_name, std::string_view button);
+// The class of the control that has the keyboard in the window; "" when none has.
+std::string KeyboardIn(std::string_view class_name);
 // Presses the key while the window has the keyboard, until `done`.
 bool PressKeyIn(std::string_view class_name, WORD key, const std::function<bool()>& done);

@@ -1,6 +1,7 @@
 // The status window as people use it: the real mouse and keys, and the texts of its real controls.
 #include <gtest/gtest.h>
 
+#include "lab/engine/login.h"
 #include "lab/engine/program_names.h"
 #include "status/progress_keys.h"
 #include "tests/windows/story.h"
@@ -55,6 +56,40 @@ TEST(StatusWindowStory, TurnsAutoPauseOverWithTheMouse) {
   EXPECT_EQ("1", story.Setting(shared::keys::kBackupIdle));
   EXPECT_TRUE(Press(kStatusWindowClass, "Auto-Pause",
                     [&] { return story.Setting(shared::keys::kBackupIdle) == "0"; }));
+}
+
+TEST(StatusWindowStory, FollowsAnotherUser) {
+  Story story;
+  ASSERT_TRUE(story.StartAgent());
+  ASSERT_TRUE(story.OpenStatus());
+  ASSERT_TRUE(WaitForText(kStatusWindowClass, "anna"));
+  lab::LogIn(story.ports(), story.machine().registry, story.places(), "berta");
+  EXPECT_TRUE(WaitForText(kStatusWindowClass, "berta"));
+  EXPECT_FALSE(Shows(kStatusWindowClass, "anna"));
+}
+
+TEST(StatusWindowStory, GivesWayToTheEnginesOwnWindow) {
+  Story story;
+  ASSERT_TRUE(story.StartAgentWithJob(1000, 500));
+  ASSERT_TRUE(story.OpenStatus());
+  ASSERT_TRUE(WaitForText(kStatusWindowClass, "Backedup files: "));
+  story.machine().profile_files.WriteText(story.InUserFolder(status::kProgressFile),
+                                          status::kProgWndSection, status::kProgWndStatus, "1");
+  EXPECT_TRUE(WaitUntilClosed(kStatusWindowClass));
+  EXPECT_LT(0, story.Traced("Backup or restore progress is shown so unload status window"));
+}
+
+TEST(StatusWindowStory, KeepsItsPlaceWhenTheEngineDiesOrLeavesHalfALine) {
+  Story story;
+  ASSERT_TRUE(story.StartAgentWithJob(1000, 500));
+  ASSERT_TRUE(story.OpenStatus());
+  ASSERT_TRUE(WaitForText(kStatusWindowClass, "Backedup files: "));
+  ASSERT_TRUE(story.Kill(lab::kEngineClient));
+  story.machine().files.Replace(story.InUserFolder(status::kProgressFile),
+                                "[BackupProgressInfo]\r\nBackupInPro");
+  ASSERT_TRUE(story.WaitForTick());
+  EXPECT_TRUE(WaitForText(kStatusWindowClass, "Account Name:"));
+  EXPECT_TRUE(story.AgentRuns());
 }
 
 TEST(StatusWindowStory, TurnsToTheLoggedOutViewWhenTheUserGoes) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "lab/engine/program_names.h"
+#include "lab/screen/mouse.h"
 #include "shared/file_names.h"
 #include "status/progress_keys.h"
 #include "tests/windows/story.h"
@@ -80,5 +81,52 @@ TEST_P(EveryJob, IsCancelledAfterAQuestion) {
 
 INSTANTIATE_TEST_SUITE_P(Transfer, EveryJob, testing::ValuesIn(kJobs),
                          [](const auto& row) { return std::string(row.param.name); });
+
+class BandwidthStory : public testing::Test {
+ protected:
+  void SetUp() override {
+    ASSERT_TRUE(story.StartAgentWithJob(1000, 500));
+    ASSERT_TRUE(story.OpenStatus());
+    ASSERT_TRUE(WaitForText(kStatusWindowClass, "100%"));
+  }
+
+  std::string Stored(std::string_view key) {
+    return story.Shared(key, shared::sections::kRegistry);
+  }
+
+  // The knob is the small picture on the slider's box.
+  static RECT Knob() {
+    const RECT box = ControlOf(kStatusWindowClass, "slider_box").place;
+    for (const lab::ControlInfo& control : WindowOf(kStatusWindowClass).controls) {
+      RECT both = {};
+      const bool small = control.place.right - control.place.left < (box.right - box.left) / 4;
+      if (control.visible && small && control.place.right - control.place.left > 4 &&
+          IntersectRect(&both, &control.place, &box)) {
+        return control.place;
+      }
+    }
+    return {};
+  }
+
+  Story story;
+};
+
+TEST_F(BandwidthStory, TheKnobFollowsTheMouse) {
+  const RECT box = ControlOf(kStatusWindowClass, "slider_box").place;
+  ASSERT_TRUE(ActUntil([&] { lab::DragMouse(lab::MiddleOf(Knob()), lab::MiddleOf(box)); },
+                       [&] { return Stored(shared::keys::kBandwidth) == "50"; }));
+  EXPECT_TRUE(WaitForText(kStatusWindowClass, "50%"));
+}
+
+TEST_F(BandwidthStory, TheArrowKeysMoveIt) {
+  ASSERT_TRUE(ActUntil([] { lab::PressKey(VK_TAB); },
+                       [] { return KeyboardIn(kStatusWindowClass) == "msctls_trackbar32"; }));
+  ASSERT_TRUE(
+      PressKeyIn(kStatusWindowClass, VK_LEFT, [] { return !Shows(kStatusWindowClass, "100%"); }));
+  EXPECT_TRUE(WaitUntil([&] {
+    const std::string stored = Stored(shared::keys::kBandwidth);
+    return !stored.empty() && stored != "100" && Shows(kStatusWindowClass, stored + "%");
+  }));
+}
 
 }  // namespace
