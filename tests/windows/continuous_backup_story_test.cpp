@@ -4,7 +4,6 @@
 
 #include "lab/engine/program_names.h"
 #include "shared/file_names.h"
-#include "status/progress_keys.h"
 #include "tests/windows/story.h"
 
 namespace {
@@ -65,13 +64,13 @@ TEST(ContinuousBackupStory, ATransferThatTheUserGivesUpMakesRoomForTheSwitch) {
   ASSERT_TRUE(CloseWith(kQuestionClass, "Yes"));
   EXPECT_TRUE(WaitUntil([&] { return story.Calls("[PostCDPStatusMsg 1]") == 1; }));
   EXPECT_FALSE(story.IsRunning(lab::kEngineClient));
-  EXPECT_EQ("1", story.Progress(status::kProgressCancel));
+  EXPECT_EQ("1", story.Progress(status::kProgressCancel, status::kProgressRequestSection));
   EXPECT_EQ("1", story.Shared(shared::keys::kRealTimeBackup));
 }
 
 TEST(ContinuousBackupStory, AModuleThatGoesOnIsWaitedForBeforeItIsToldToEnd) {
   Story story;
-  story.SetShared(shared::keys::kRealTimeBackup, "1");
+  story.SetPlainSetting(shared::keys::kRealTimeBackup, "1");
   story.SetShared(shared::keys::kRtBackup, "1");
   ASSERT_TRUE(story.StartAgent());
   ASSERT_TRUE(story.ChooseAndAnswer("Continuous Backup", "Proceed"));

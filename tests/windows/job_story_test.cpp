@@ -5,7 +5,6 @@
 #include "lab/engine/program_names.h"
 #include "lab/engine/schedule_file.h"
 #include "shared/file_names.h"
-#include "status/progress_keys.h"
 #include "tests/windows/story.h"
 
 namespace {

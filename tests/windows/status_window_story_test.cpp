@@ -3,7 +3,6 @@
 
 #include "lab/engine/login.h"
 #include "lab/engine/program_names.h"
-#include "status/progress_keys.h"
 #include "tests/windows/story.h"
 
 namespace {

@@ -7,7 +7,6 @@
 #include "lab/engine/program_names.h"
 #include "lab/screen/mouse.h"
 #include "shared/file_names.h"
-#include "status/progress_keys.h"
 #include "tests/windows/lab_service.h"
 
 namespace {
@@ -156,9 +155,8 @@ void Story::SetPlainSetting(std::string_view key, std::string_view value,
   machine().profile_files.WriteText(places().Profile(kUser), section, key, value);
 }
 
-std::string Story::Progress(std::string_view key) {
-  return machine().profile_files.ReadText(InUserFolder(status::kProgressFile),
-                                          status::kBackupProgressSection, key);
+std::string Story::Progress(std::string_view key, std::string_view section) {
+  return machine().profile_files.ReadText(InUserFolder(status::kProgressFile), section, key);
 }
 
 int Story::ConnectionStatus() {

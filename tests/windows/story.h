@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "shared/keys.h"
+#include "status/progress_keys.h"
 #include "tests/windows/hands.h"
 #include "tests/windows/installation.h"
 
@@ -44,7 +45,8 @@ class Story : public Installation {
                            std::string_view section = shared::sections::kTolvex);
   void SetPlainSetting(std::string_view key, std::string_view value,
                        std::string_view section = shared::sections::kTolvex);
-  std::string Progress(std::string_view key);
+  std::string Progress(std::string_view key,
+                       std::string_view section = status::kBackupProgressSection);
   // `Status` of `Connection Parameters`; -1 without the value.
   int ConnectionStatus();
   // True when a fast tick has run after this call: it has acknowledged the end of a job.

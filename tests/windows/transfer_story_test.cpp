@@ -5,7 +5,6 @@
 #include "lab/engine/program_names.h"
 #include "lab/screen/mouse.h"
 #include "shared/file_names.h"
-#include "status/progress_keys.h"
 #include "tests/windows/story.h"
 
 namespace {
@@ -44,10 +43,7 @@ class EveryJob : public testing::TestWithParam<JobRow> {
            WaitForText(kStatusWindowClass, GetParam().counter);
   }
 
-  std::string FileCount() {
-    return story.machine().profile_files.ReadText(story.InUserFolder(status::kProgressFile),
-                                                  GetParam().section, status::kFileCount);
-  }
+  std::string FileCount() { return story.Progress(status::kFileCount, GetParam().section); }
 
   Story story;
 };
