@@ -64,6 +64,19 @@ class MenuInWaitsTest : public testing::ContinuousFixture,
       });
     });
   }
+  // Clicks the switch and takes every item while it is under way, which ends with this order to the
+  // module and the choice that goes with it.
+  void TakeItemsWhileSwitching(std::int32_t order) {
+    Click("Continue");
+    TakeEveryItem(agent_, 3200, 100,
+                  Counting([this] { return agent_.state().ContinuousSwitchUnderWay; }));
+    agent_.machine.Run(100);
+    EXPECT_EQ(taken_, Items());
+    EXPECT_TRUE(ticked_);
+    EXPECT_EQ(orders_, std::vector<std::int32_t>{order});
+    EXPECT_EQ(agent_.Shared(keys::kRealTimeBackup), std::to_string(order));
+    ExpectAtRest();
+  }
   // Nothing of a wait is left, and the agent goes on as before.
   void ExpectAtRest() {
     agent_.machine.Run(60000);
@@ -99,29 +112,13 @@ TEST_P(MenuInWaitsTest, TheModuleIsWaitedFor) {
   agent_.SetShared(keys::kRtBackup, "1");
   StartTicking();
   Item().SetChecked(true);
-  Click("Continue");
-  TakeEveryItem(agent_, 3200, 100,
-                Counting([this] { return agent_.state().ContinuousSwitchUnderWay; }));
-  agent_.machine.Run(100);
-  EXPECT_EQ(taken_, Items());
-  EXPECT_TRUE(ticked_);
-  EXPECT_EQ(orders_, std::vector<std::int32_t>{0});
-  EXPECT_EQ(agent_.Shared(keys::kRealTimeBackup), "0");
-  ExpectAtRest();
+  TakeItemsWhileSwitching(0);
 }
 
 TEST_P(MenuInWaitsTest, TheEngineIsWaitedForByTheSwitch) {
   script_ = std::vector<std::string>(8, "-1");
   StartTicking();
-  Click("Continue");
-  TakeEveryItem(agent_, 3200, 100,
-                Counting([this] { return agent_.state().ContinuousSwitchUnderWay; }));
-  agent_.machine.Run(100);
-  EXPECT_EQ(taken_, Items());
-  EXPECT_TRUE(ticked_);
-  EXPECT_EQ(orders_, std::vector<std::int32_t>{1});
-  EXPECT_EQ(agent_.Shared(keys::kRealTimeBackup), "1");
-  ExpectAtRest();
+  TakeItemsWhileSwitching(1);
 }
 
 TEST_P(MenuInWaitsTest, TheEngineIsWaitedForByTheDailySynchronisation) {

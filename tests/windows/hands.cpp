@@ -5,7 +5,6 @@
 
 namespace {
 
-constexpr DWORD kBeforeActingAgain = 6'000;  // milliseconds
 constexpr int kMostAttempts = 8;
 
 }  // namespace

@@ -11,6 +11,8 @@
 inline constexpr std::string_view kStatusWindowClass = "frmStatus";
 inline constexpr std::string_view kQuestionClass = "frmGeneralMessage";
 
+inline constexpr DWORD kBeforeActingAgain = 6'000;  // milliseconds
+
 // Acts until `done`, each time after some seconds without it. False when it does not come.
 bool ActUntil(const std::function<void()>& act, const std::function<bool()>& done);
 

@@ -54,6 +54,9 @@ bool MenuHasTheKeyboard() {
 }
 
 void ChooseByKeys(std::string_view item) {
+  // A menu that has lost the keyboard is given up.
+  const auto closed = [] { return !MenuIsShown(); };
+  if (MenuIsShown() && !ActUntil([] { lab::PressKey(VK_ESCAPE); }, closed)) return;
   if (!ActUntil(
           [] {
             if (!MenuIsShown()) lab::ClickMouse(IconPlace(), lab::MouseButton::kRight);
@@ -64,7 +67,7 @@ void ChooseByKeys(std::string_view item) {
   const auto found = std::find(std::begin(kMenuItems), std::end(kMenuItems), item);
   for (auto at = std::begin(kMenuItems); at <= found; ++at) lab::PressKey(VK_DOWN);
   lab::PressKey(VK_RETURN);
-  WaitUntil([] { return !MenuIsShown(); });
+  WaitUntil(closed, kBeforeActingAgain);
 }
 
 int CountOf(std::string_view words, std::string_view text) {
