@@ -34,8 +34,9 @@ LabService::LabService(Story& story)
 }
 
 LabService::~LabService() {
-  story_.Script("Service", "State", std::to_string(SERVICE_STOPPED));
-  WaitUntil([this] { return State() == SERVICE_STOPPED; });
+  // A batch file that starts it may still be on its way.
+  ActUntil([this] { story_.Script("Service", "State", std::to_string(SERVICE_STOPPED)); },
+           [this] { return State() == SERVICE_STOPPED; });
   DeleteService(service_);
   CloseServiceHandle(service_);
   CloseServiceHandle(manager_);
