@@ -50,7 +50,8 @@ function(sorvane_desktop_tests name count)
 endfunction()
 
 # sorvane_fuzz(fuzz_NAME SOURCES file... [LINKS lib...]): one libFuzzer target. Its seeds lie in
-# fuzz/corpus/fuzz_NAME; `./run fuzz` runs all targets.
+# fuzz/corpus/fuzz_NAME; `./run fuzz` runs all targets. Without the fuzzer it is a test that runs over
+# its seeds.
 function(sorvane_fuzz name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
@@ -58,5 +59,12 @@ function(sorvane_fuzz name)
   target_link_libraries(${name} PRIVATE ${ARG_LINKS})
   # As the libraries: the sanitizer would ask for type records that they do not have.
   target_compile_options(${name} PRIVATE -fno-rtti)
-  target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+  if(SORVANE_FUZZ)
+    target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+  else()
+    target_sources(${name} PRIVATE $<TARGET_OBJECTS:fuzz_replay>)
+    target_compile_options(${name} PRIVATE ${SORVANE_TEST_OPTIONS})
+    add_test(NAME fuzz.${name} COMMAND ${name} "${PROJECT_SOURCE_DIR}/fuzz/corpus/${name}")
+    set_tests_properties(fuzz.${name} PROPERTIES LABELS native)
+  endif()
 endfunction()

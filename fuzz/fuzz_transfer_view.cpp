@@ -27,7 +27,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   machine.files().Put("C:\\Sorvane\\UserName.ini", file);
 
   const status::TransferSnapshot transfer = status::ReadTransferSnapshot(machine.platform(), state);
-  const status::StatusContext context = status::ReadStatusContext(machine.platform(), state);
+  const status::StatusContext context = status::ReadStatusContext(machine.platform(), state, false);
   status::StatusView view;
   status::EnterTransferView(view, transfer, context);
   CheckPanel(view.transfer);

@@ -39,7 +39,7 @@ bool AddNames(platform::Files& disk, const std::string& path,
   if (!text) return false;
   std::vector<std::string> lines = LinesOf(*text);
   std::vector<std::string_view> order(names.begin(), names.end());
-  if (disk.Exists(path)) std::ranges::rotate(order, order.end() - 1);
+  if (disk.Exists(path)) std::rotate(order.begin(), order.end() - 1, order.end());
   for (const std::string_view name : order) {
     const std::string entry = std::string(name).append(kInForce);
     const bool listed = std::ranges::any_of(
