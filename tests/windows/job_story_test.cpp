@@ -9,6 +9,13 @@
 
 namespace {
 
+constexpr std::string_view kStopped = "Stopped backup from mnuStop Tray status";
+
+// Chooses an item from which nothing is expected, and lets the agent go on behind it.
+bool ChooseOnce(Story& story, std::string_view item) {
+  return story.Choose(item, [] { return true; }) && story.WaitForTick();
+}
+
 TEST(JobStory, AStopIsSeenByTheEngineAndTurnsTheIconRed) {
   Story story;
   ASSERT_TRUE(story.StartAgentWithJob(100, 1000));
@@ -20,8 +27,22 @@ TEST(JobStory, AStopIsSeenByTheEngineAndTurnsTheIconRed) {
             story.machine()
                 .files.Read(story.InUserFolder(shared::files::kScheduleStatus), 1000)
                 .value_or(""));
-  EXPECT_TRUE(
-      WaitUntil([&] { return story.Traced("Stopped backup from mnuStop Tray status") > 0; }));
+  EXPECT_TRUE(WaitUntil([&] { return story.Traced(kStopped) == 1; }));
+  // There is nothing left to stop.
+  ASSERT_TRUE(ChooseOnce(story, "Stop Scheduled Backup"));
+  EXPECT_EQ(1, story.Traced(kStopped));
+}
+
+TEST(JobStory, AStopAfterTheJobChangesNothing) {
+  Story story;
+  ASSERT_TRUE(story.StartAgentWithJob(2, 500));
+  ASSERT_TRUE(story.WaitForPicture("tvloggreen.ico"));
+  ASSERT_TRUE(ChooseOnce(story, "Stop Scheduled Backup"));
+  EXPECT_EQ(0, story.Traced(kStopped));
+  EXPECT_EQ("The scheduled backup has been completed.\r\n",
+            story.machine()
+                .files.Read(story.InUserFolder(shared::files::kScheduleStatus), 1000)
+                .value_or(""));
 }
 
 TEST(JobStory, AStopEndsAnEngineThatHearsNothing) {
