@@ -6,7 +6,7 @@
 namespace lab {
 namespace {
 
-constexpr std::int64_t kMinutesPerDay = 24 * 60;
+constexpr std::int64_t kMinutesPerDay = std::int64_t{24} * 60;
 
 std::string Format(const char* form, int a, int b, int c, int d, int e, int f) {
   char text[64];

@@ -8,8 +8,8 @@ std::int64_t SecondsOf(const LocalTime& time) {
   using namespace std::chrono;
   const sys_days day = year(time.year) / month(static_cast<unsigned>(time.month)) /
                        std::chrono::day(static_cast<unsigned>(time.day));
-  return std::int64_t{day.time_since_epoch().count()} * 86400 + time.hour * 3600 +
-         time.minute * 60 + time.second;
+  const std::int64_t minutes = std::int64_t{time.hour} * 60 + time.minute;
+  return std::int64_t{day.time_since_epoch().count()} * 86400 + minutes * 60 + time.second;
 }
 
 LocalTime LocalTimeOf(std::int64_t seconds) {
