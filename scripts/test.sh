@@ -9,7 +9,6 @@ setup build test screen
 desktops=4 # as many as tests/windows/CMakeLists.txt uses
 configure_and_build native-asan
 configure_and_build windows-x64
-configure_and_build windows-x86 SorvaneETray
 
 mkdir -p build/test
 printf 'subdirs("%s" "%s")\n' "$PWD/build/native-asan" "$PWD/build/windows-x64" \
@@ -21,8 +20,12 @@ start_screen "$screen"
 use_wine_prefix test "$screen"
 start_shell "$screen"
 
-# The tests on desktops of their own mostly wait; the others fill the processors meanwhile.
+# The tests on desktops of their own mostly wait; the others, and the compiler, fill the processors
+# meanwhile.
+configure_and_build windows-x86 SorvaneETray &
+compiler=$!
 result=0
 ctest --test-dir build/test --output-on-failure --no-tests=error -j "$(($(nproc) + desktops))" "$@" ||
   result=$?
+wait "$compiler" || result=$?
 exit "$result"
