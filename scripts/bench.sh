@@ -47,7 +47,6 @@ screen=800x600
 start_screen "$screen"
 use_wine_prefix bench "$screen"
 installation="$WINEPREFIX/drive_c/Sorvane"
-rm -rf "$installation"
 stage "$installation" --lab
 configure_and_build windows-x64 bench_log_in bench_ticks bench_growth bench_walk bench_idler bare_tray
 put_bench_programs "$installation"

@@ -13,11 +13,10 @@ start_screen "$screen"
 use_wine_prefix demo "$screen"
 
 installation="$WINEPREFIX/drive_c/Sorvane"
-rm -rf "$installation" out/demo
+rm -rf out/demo
 mkdir -p out/demo
 stage "$installation" --lab
 configure_and_build windows-x64 lab_observer
-wine reg delete 'HKCU\Software\Bellwick-Labs' /f >/dev/null 2>&1 || true # of an earlier demo
 
 say "the shell"
 start_shell "$screen"

@@ -1,7 +1,6 @@
 // The slow tick: the daily step, and the end of a session that belongs to the system.
 #include <gtest/gtest.h>
 
-#include "lab/engine/program_names.h"
 #include "tests/windows/story.h"
 
 namespace {
@@ -21,13 +20,6 @@ void EndSession(Story& story) {
   story.SetShared(keys::kLogOff, "1", kRegistry);
 }
 
-bool SlowTickHasRun(Story& story) {
-  // It is the one that brings the background process back.
-  return WaitUntil([&] { return story.IsRunning(lab::kBackgroundProcess); }) &&
-         story.Kill(lab::kBackgroundProcess) &&
-         WaitUntil([&] { return story.IsRunning(lab::kBackgroundProcess); });
-}
-
 TEST(HousekeepingStory, TheAgentOfTheSystemEndsWithTheSession) {
   Story story;
   StartAsSystem(story);
@@ -43,7 +35,7 @@ TEST(HousekeepingStory, ThePersonsAgentStaysWhenASessionEnds) {
   Story story;
   EndSession(story);
   ASSERT_TRUE(story.StartAgent());
-  ASSERT_TRUE(SlowTickHasRun(story));
+  ASSERT_TRUE(story.WaitForSlowTick());
   EXPECT_TRUE(story.AgentRuns());
   EXPECT_EQ("1", story.Shared(keys::kLogOff, kRegistry));
 }
@@ -61,7 +53,7 @@ TEST(HousekeepingStory, ADayThatHasPassedIsStampedAndSynchronisedOnce) {
   EXPECT_EQ(1, story.Calls("SorvaneEClsClient.exe [ 38]"));
   EXPECT_NE("2019", story.Shared(keys::kTrayIconYear));
   EXPECT_EQ(story.Shared(keys::kTrayIconDay), story.PlainSetting(keys::kSyncDay));
-  ASSERT_TRUE(SlowTickHasRun(story));
+  ASSERT_TRUE(story.WaitForSlowTick());
   EXPECT_EQ(1, story.Calls("SorvaneEClsClient.exe [ 38]"));
 }
 

@@ -11,11 +11,6 @@ namespace {
 
 constexpr std::string_view kStopped = "Stopped backup from mnuStop Tray status";
 
-// Chooses an item from which nothing is expected, and lets the agent go on behind it.
-bool ChooseOnce(Story& story, std::string_view item) {
-  return story.Choose(item, [] { return true; }) && story.WaitForTick();
-}
-
 TEST(JobStory, AStopIsSeenByTheEngineAndTurnsTheIconRed) {
   Story story;
   ASSERT_TRUE(story.StartAgentWithJob(100, 1000));
@@ -29,7 +24,7 @@ TEST(JobStory, AStopIsSeenByTheEngineAndTurnsTheIconRed) {
                 .value_or(""));
   EXPECT_TRUE(WaitUntil([&] { return story.Traced(kStopped) == 1; }));
   // There is nothing left to stop.
-  ASSERT_TRUE(ChooseOnce(story, "Stop Scheduled Backup"));
+  ASSERT_TRUE(story.ChooseInVain("Stop Scheduled Backup"));
   EXPECT_EQ(1, story.Traced(kStopped));
 }
 
@@ -37,7 +32,7 @@ TEST(JobStory, AStopAfterTheJobChangesNothing) {
   Story story;
   ASSERT_TRUE(story.StartAgentWithJob(2, 500));
   ASSERT_TRUE(story.WaitForPicture("tvloggreen.ico"));
-  ASSERT_TRUE(ChooseOnce(story, "Stop Scheduled Backup"));
+  ASSERT_TRUE(story.ChooseInVain("Stop Scheduled Backup"));
   EXPECT_EQ(0, story.Traced(kStopped));
   EXPECT_EQ("The scheduled backup has been completed.\r\n",
             story.machine()

@@ -53,21 +53,22 @@ bool MenuHasTheKeyboard() {
   return MenuIsShown() && lab::ProgramOf(GetForegroundWindow()) == kAgentProgram;
 }
 
-void ChooseByKeys(std::string_view item) {
+// False when no menu comes up, or it does not go with the choice.
+bool ChooseByKeys(std::string_view item) {
   // A menu that has lost the keyboard is given up.
   const auto closed = [] { return !MenuIsShown(); };
-  if (MenuIsShown() && !ActUntil([] { lab::PressKey(VK_ESCAPE); }, closed)) return;
+  if (MenuIsShown() && !ActUntil([] { lab::PressKey(VK_ESCAPE); }, closed)) return false;
   if (!ActUntil(
           [] {
             if (!MenuIsShown()) lab::ClickMouse(IconPlace(), lab::MouseButton::kRight);
           },
           MenuHasTheKeyboard)) {
-    return;
+    return false;
   }
   const auto found = std::find(std::begin(kMenuItems), std::end(kMenuItems), item);
   for (auto at = std::begin(kMenuItems); at <= found; ++at) lab::PressKey(VK_DOWN);
   lab::PressKey(VK_RETURN);
-  WaitUntil(closed, kBeforeActingAgain);
+  return WaitUntil(closed, kBeforeActingAgain);
 }
 
 int CountOf(std::string_view words, std::string_view text) {
@@ -176,12 +177,21 @@ bool Story::WaitForTick() {
   return WaitUntil([this] { return Status(status::kDllStatus) == "0"; });
 }
 
+bool Story::WaitForSlowTick() {
+  const auto runs = [this] { return IsRunning(lab::kBackgroundProcess); };
+  return WaitUntil(runs) && Kill(lab::kBackgroundProcess) && WaitUntil(runs);
+}
+
 bool Story::DoubleClickIcon(const std::function<bool()>& done) {
   return ActUntil([] { lab::DoubleClickMouse(IconPlace()); }, done);
 }
 
 bool Story::Choose(std::string_view item, const std::function<bool()>& done) {
   return ActUntil([&] { ChooseByKeys(item); }, done);
+}
+
+bool Story::ChooseInVain(std::string_view item) {
+  return ChooseByKeys(item) && WaitForTick();
 }
 
 bool Story::ChooseAndAnswer(std::string_view item, std::string_view button) {

@@ -51,13 +51,18 @@ class Story : public Installation {
   int ConnectionStatus();
   // True when a fast tick has run after this call: it has acknowledged the end of a job.
   bool WaitForTick();
+  // True when a slow tick has run after this call: it has brought the background process back,
+  // which is ended for this.
+  bool WaitForSlowTick();
 
   // Double clicks the icon until `done`.
   bool DoubleClickIcon(const std::function<bool()>& done);
   // Opens the icon's menu and chooses the item with this caption of a logged-in user's menu by the
   // arrow keys, until `done`. False when that does not come.
   bool Choose(std::string_view item, const std::function<bool()>& done);
-  // The same for an item that asks a question first, which is answered with this button.
+  // Chooses an item from which nothing is expected, and lets the agent go on behind it.
+  bool ChooseInVain(std::string_view item);
+  // The same as Choose for an item that asks a question first, which is answered with this button.
   bool ChooseAndAnswer(std::string_view item, std::string_view button);
   bool OpenStatus();
   // Rests the mouse on the icon until its tip begins so; a tip ends after 63 characters.

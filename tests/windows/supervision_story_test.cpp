@@ -37,9 +37,7 @@ TEST(SupervisionStory, AServiceThatStaysStoppedIsStartedTwiceAndNoMore) {
   ASSERT_TRUE(story.StartAgent());
   ASSERT_TRUE(WaitUntil([&] { return story.Traced(kStarts) == 2; }));
   // The slow tick that brings the background process back does not ask again.
-  ASSERT_TRUE(WaitUntil([&] { return story.IsRunning(lab::kBackgroundProcess); }));
-  ASSERT_TRUE(story.Kill(lab::kBackgroundProcess));
-  EXPECT_TRUE(WaitUntil([&] { return story.IsRunning(lab::kBackgroundProcess); }));
+  ASSERT_TRUE(story.WaitForSlowTick());
   ASSERT_TRUE(story.WaitForTick());
   EXPECT_EQ(2, story.Traced(kStarts));
   EXPECT_LT(0, story.Calls(kStartFile));

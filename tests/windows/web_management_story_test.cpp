@@ -61,6 +61,7 @@ TEST(WebManagementStory, AnErrorIsToldWithoutALogout) {
   ASSERT_TRUE(WaitForText(kAlertClass, "Web Manager is disabled as an error has occured"));
   EXPECT_EQ(1, story.ConnectionStatus());
   ASSERT_TRUE(CloseWith(kAlertClass, "Close"));
+  ASSERT_TRUE(story.WaitForTick());
   EXPECT_FALSE(story.IsRunning(lab::kMainProgram));
 }
 
